@@ -1,0 +1,15 @@
+# What every target of the project is compiled with. Contraction is off and 32-bit builds use SSE, so that
+# every compiler prints the same digits.
+add_library(orve_compile INTERFACE)
+target_compile_features(orve_compile INTERFACE cxx_std_20)
+target_compile_options(orve_compile INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Werror
+  -ffp-contract=off
+  $<$<AND:$<CXX_COMPILER_ID:GNU,Clang>,$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>>:-msse2 -mfpmath=sse>)
+if(ORVE_SANITIZE)
+  target_compile_options(orve_compile INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orve_compile INTERFACE -fsanitize=address,undefined)
+endif()
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
