@@ -38,8 +38,8 @@ class Event {
     return Connection(std::move(slot));
   }
 
-  /// Calls the callbacks in the order of their connection. A callback may connect, disconnect or call back into
-  /// the library; an exception passes through unchanged and the callbacks behind it aren't called.
+  /// Calls the callbacks in the order of their connection. A callback may connect, disconnect or call back
+  /// into the library; an exception passes through unchanged and the callbacks behind it aren't called.
   void Raise(Arguments... arguments) {
     const std::vector<std::weak_ptr<Callback>> slots = m_slots;
     for (const auto& weak : slots)

@@ -9,15 +9,16 @@ namespace orve {
 
 class clsCommonDialog;
 
-/// Calls that a host may replace; assign an empty function to get the default back. A path that the library hands to
-/// a service has "\" as its separator; `NativePath` gives it back as the machine's own.
+/// Calls that a host may replace; assign an empty function to get the default back. A path that the library
+/// hands to a service has "\" as its separator; `NativePath` gives it back as the machine's own.
 struct HostServices {
-  /// Message box: prompt, buttons (36: question, Yes and No; 16: stop sign, OK), title; returns the button (6 is Yes,
-  /// 7 No, 1 OK). Default: the cautious answer, No or OK.
-  std::function<std::int32_t(const std::string& prompt, std::int32_t buttons, const std::string& title)> MsgBox;
+  /// Message box: prompt, buttons (36: question, Yes and No; 16: stop sign, OK), title; returns the button (6
+  /// is Yes, 7 No, 1 OK). Default: the cautious answer, No or OK.
+  std::function<std::int32_t(const std::string& prompt, std::int32_t buttons, const std::string& title)>
+      MsgBox;
 
-  /// File dialogs: read the settings from the dialog, set its `FileName` and return true, or return false for Cancel.
-  /// Default: Cancel.
+  /// File dialogs: read the settings from the dialog, set its `FileName` and return true, or return false for
+  /// Cancel. Default: Cancel.
   std::function<bool(clsCommonDialog& dialog)> OpenFileDialog;
   std::function<bool(clsCommonDialog& dialog)> SaveFileDialog;
 
@@ -38,9 +39,9 @@ struct HostServices {
   /// Present date and time as an OLE date, whole seconds. Default: the machine's local time.
   std::function<double()> Now;
 
-  /// Site dialogs of the built-in wind-speed engine: set the engine's values and return true, or return false for
-  /// Cancel. `SiteBrowse` and `SiteSelect` set the site reference that they are given; `SiteEdit` changes the engine
-  /// through `orve::basBS6399_2::BreVe`. Default: Cancel.
+  /// Site dialogs of the built-in wind-speed engine: set the engine's values and return true, or return false
+  /// for Cancel. `SiteBrowse` and `SiteSelect` set the site reference that they are given; `SiteEdit` changes
+  /// the engine through `orve::basBS6399_2::BreVe`. Default: Cancel.
   std::function<bool(std::string& siteReference)> SiteBrowse;
   std::function<bool(std::string& siteReference)> SiteSelect;
   std::function<bool()> SiteEdit;

@@ -2,7 +2,9 @@
 
 namespace orve {
 
-void RaiseOverflow() { throw Error(ErrorNumber::Overflow, "Overflow"); }
+void RaiseOverflow() {
+  throw Error(ErrorNumber::Overflow, "Overflow");
+}
 
 double RoundHalfEven(double value) {
   const double below = std::floor(value);
@@ -24,8 +26,12 @@ Integer RoundInto(double value) {
 
 }  // namespace
 
-std::int16_t ToInt16(double value) { return RoundInto<std::int16_t>(value); }
+std::int16_t ToInt16(double value) {
+  return RoundInto<std::int16_t>(value);
+}
 
-std::int32_t ToInt32(double value) { return RoundInto<std::int32_t>(value); }
+std::int32_t ToInt32(double value) {
+  return RoundInto<std::int32_t>(value);
+}
 
 }  // namespace orve

@@ -12,7 +12,8 @@ namespace orve {
 
 [[noreturn]] void RaiseOverflow();
 
-/// Narrows once to a 32-bit float; a finite value that is too large raises 6. NaN and infinity pass as they are.
+/// Narrows once to a 32-bit float; a finite value that is too large raises 6. NaN and infinity pass as they
+/// are.
 inline float ToSingle(double value) {
   const float narrowed = static_cast<float>(value);
   if (std::isinf(narrowed) && !std::isinf(value)) RaiseOverflow();
@@ -21,7 +22,7 @@ inline float ToSingle(double value) {
 
 /// Narrows a whole number to 16 bits; raises 6 outside -32768 to 32767.
 template <class Integer>
-  requires std::is_integral_v<Integer>
+requires std::is_integral_v<Integer>
 constexpr std::int16_t ToInt16(Integer value) {
   if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max())
     RaiseOverflow();
@@ -30,12 +31,13 @@ constexpr std::int16_t ToInt16(Integer value) {
 
 /// Narrows an enumeration's value to the 16 bits that it is held in.
 template <class Enumeration>
-  requires std::is_enum_v<Enumeration>
+requires std::is_enum_v<Enumeration>
 constexpr std::int16_t ToInt16(Enumeration value) {
   return ToInt16(static_cast<std::int32_t>(value));
 }
 
-/// Whole number nearest to a value, halves to the even neighbour, without regard to the rounding mode in force.
+/// Whole number nearest to a value, halves to the even neighbour, without regard to the rounding mode in
+/// force.
 double RoundHalfEven(double value);
 
 /// A fraction to a whole number of 16 bits, halves to even; raises 6 if it doesn't fit or is no number.

@@ -12,8 +12,8 @@ namespace orve {
 class BVe2X;
 class BreCpX;
 
-/// Maps a class name, such as "BVe2XControl4.BVe2X", to the factory that makes one component of it. A name without a
-/// factory fails with error 429 when it is created. A factory's own error passes to the caller.
+/// Maps a class name, such as "BVe2XControl4.BVe2X", to the factory that makes one component of it. A name
+/// without a factory fails with error 429 when it is created. A factory's own error passes to the caller.
 class ComponentClassRegistry {
  public:
   using WindSpeedFactory = std::function<std::shared_ptr<BVe2X>()>;

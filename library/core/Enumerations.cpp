@@ -64,18 +64,9 @@ std::string_view PublishedText(ParentTypes value) {
 
 std::string_view PublishedText(WindSectors value) {
   static constexpr Member members[] = {
-      {0, "  0 degrees"},
-      {1, " 30 degrees"},
-      {2, " 60 degrees"},
-      {3, " 90 degrees"},
-      {4, "120 degrees"},
-      {5, "150 degrees"},
-      {6, "180 degrees"},
-      {7, "210 degrees"},
-      {8, "240 degrees"},
-      {9, "270 degrees"},
-      {10, "300 degrees"},
-      {11, "330 degrees"},
+      {0, "  0 degrees"}, {1, " 30 degrees"}, {2, " 60 degrees"},  {3, " 90 degrees"},
+      {4, "120 degrees"}, {5, "150 degrees"}, {6, "180 degrees"},  {7, "210 degrees"},
+      {8, "240 degrees"}, {9, "270 degrees"}, {10, "300 degrees"}, {11, "330 degrees"},
   };
   return Find(value, members);
 }
@@ -121,12 +112,7 @@ std::string_view PublishedText(LifeTime value) {
 
 std::string_view PublishedText(Durations value) {
   static constexpr Member members[] = {
-      {0, "All year"},
-      {1, "Winter"},
-      {2, "Summer"},
-      {3, "4 months"},
-      {4, "2 months"},
-      {5, "1 month"},
+      {0, "All year"}, {1, "Winter"}, {2, "Summer"}, {3, "4 months"}, {4, "2 months"}, {5, "1 month"},
   };
   return Find(value, members);
 }
@@ -149,30 +135,16 @@ std::string_view PublishedText(SaBasedOnTypes value) {
 
 std::string_view PublishedText(Months value) {
   static constexpr Member members[] = {
-      {0, "January"},
-      {1, "February"},
-      {2, "March"},
-      {3, "April"},
-      {4, "May"},
-      {5, "June"},
-      {6, "July"},
-      {7, "August"},
-      {8, "September"},
-      {9, "October"},
-      {10, "November"},
-      {11, "December"},
+      {0, "January"}, {1, "February"}, {2, "March"},     {3, "April"},   {4, "May"},       {5, "June"},
+      {6, "July"},    {7, "August"},   {8, "September"}, {9, "October"}, {10, "November"}, {11, "December"},
   };
   return Find(value, members);
 }
 
 std::string_view PublishedText(WindAreas value) {
   static constexpr Member members[] = {
-      {0, "waRoof"},
-      {1, "waSidewall"},
-      {2, "waGable"},
-      {3, "waInternal"},
-      {4, "waSidewallParapet"},
-      {5, "waGableParapet"},
+      {0, "waRoof"},     {1, "waSidewall"},        {2, "waGable"},
+      {3, "waInternal"}, {4, "waSidewallParapet"}, {5, "waGableParapet"},
   };
   return Find(value, members);
 }
@@ -188,20 +160,9 @@ std::string_view PublishedText(Bays value) {
 
 std::string_view PublishedText(WallZones value) {
   static constexpr Member members[] = {
-      {0, "Windward"},
-      {1, "Leeward"},
-      {2, "A (face 1)"},
-      {3, "B (face 1)"},
-      {4, "C (face 1)"},
-      {5, "A (face 2)"},
-      {6, "B (face 2)"},
-      {7, "C (face 2)"},
-      {8, "A (face 3)"},
-      {9, "B (face 3)"},
-      {10, "C (face 3)"},
-      {11, "A (face 4)"},
-      {12, "B (face 4)"},
-      {13, "C (face 4)"},
+      {0, "Windward"},    {1, "Leeward"},     {2, "A (face 1)"},  {3, "B (face 1)"},  {4, "C (face 1)"},
+      {5, "A (face 2)"},  {6, "B (face 2)"},  {7, "C (face 2)"},  {8, "A (face 3)"},  {9, "B (face 3)"},
+      {10, "C (face 3)"}, {11, "A (face 4)"}, {12, "B (face 4)"}, {13, "C (face 4)"},
   };
   return Find(value, members);
 }

@@ -1,5 +1,5 @@
-// Every enumeration of the public interface, with the texts under which its members are published. The values are
-// what case files store. A value outside an enumeration is never rejected by the type itself.
+// Every enumeration of the public interface, with the texts under which its members are published. The values
+// are what case files store. A value outside an enumeration is never rejected by the type itself.
 #pragma once
 
 #include <cstdint>
@@ -145,7 +145,8 @@ enum class Bays : std::int32_t {
   All_Remaining_Bays = 2,
 };
 
-/// The wall zone selected for a dominant opening. Each value is one lower than that of the same name in `SelectedLoadTypes`.
+/// The wall zone selected for a dominant opening. Each value is one lower than that of the same name in
+/// `SelectedLoadTypes`.
 enum class WallZones : std::int32_t {
   Windward = 0,
   Leeward = 1,

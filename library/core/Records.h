@@ -28,7 +28,8 @@ struct CantileverResults {
   std::string Cantilever_WindUplift;
 };
 
-/// Dimensions (a number and " m") and external pressure (a signed number and " kN/m²") of one wall zone, as text.
+/// Dimensions (a number and " m") and external pressure (a signed number and " kN/m²") of one wall zone, as
+/// text.
 struct CantileverZone {
   std::string Zone_Dimensions;
   std::string Zone_ExternalPressures;

@@ -6,9 +6,9 @@
 
 namespace orve {
 
-/// A component that knows the zones and the external pressure coefficients of BS 6399-2 for one building shape. It
-/// has no calculate call: a value read reflects the inputs set before the read. Lengths are in metres, angles in
-/// degrees; a coefficient above 0 is pressure, below 0 suction.
+/// A component that knows the zones and the external pressure coefficients of BS 6399-2 for one building
+/// shape. It has no calculate call: a value read reflects the inputs set before the read. Lengths are in
+/// metres, angles in degrees; a coefficient above 0 is pressure, below 0 suction.
 class BreCpX {
  public:
   virtual ~BreCpX() = default;
@@ -45,7 +45,8 @@ class BreCpX {
   /// 1 for parapets, else 0.
   virtual void Solidity(std::int32_t value) = 0;
 
-  /// Wind angle to the building: 0, 90, 180 or 270, or 89.9 or 270.1 for a mono-pitched roof. Reads back exactly.
+  /// Wind angle to the building: 0, 90, 180 or 270, or 89.9 or 270.1 for a mono-pitched roof. Reads back
+  /// exactly.
   virtual double Theta() const = 0;
   virtual void Theta(double value) = 0;
   /// Zone number of the component, scanned from 0 to 25.

@@ -8,10 +8,10 @@
 
 namespace orve {
 
-/// A component that holds one site and works out its wind factors to BS 6399-2, for one height and one diagonal at
-/// a time and for all twelve sectors at once. Inputs first, then `Calculate`, then results: a result is that of the
-/// last `Calculate`. Sectors are 0 to 11. Distances to the sea and in the town are in kilometres, all other lengths
-/// in metres, speeds in m/s.
+/// A component that holds one site and works out its wind factors to BS 6399-2, for one height and one
+/// diagonal at a time and for all twelve sectors at once. Inputs first, then `Calculate`, then results: a
+/// result is that of the last `Calculate`. Sectors are 0 to 11. Distances to the sea and in the town are in
+/// kilometres, all other lengths in metres, speeds in m/s.
 class BVe2X {
  public:
   virtual ~BVe2X() = default;
@@ -61,9 +61,9 @@ class BVe2X {
 
   // Site data by sector. A value set reads back equal.
   virtual float CrestHt(WindSectors sector) const = 0;  ///< Crest height Z.
-  virtual float CrestX(WindSectors sector) const = 0;   ///< Site's distance X from the crest, negative upwind.
-  virtual float UpwLen(WindSectors sector) const = 0;   ///< Upwind slope length LU.
-  virtual float DnwLen(WindSectors sector) const = 0;   ///< Downwind slope length LD.
+  virtual float CrestX(WindSectors sector) const = 0;  ///< Site's distance X from the crest, negative upwind.
+  virtual float UpwLen(WindSectors sector) const = 0;  ///< Upwind slope length LU.
+  virtual float DnwLen(WindSectors sector) const = 0;  ///< Downwind slope length LD.
   virtual float BaseAlt(WindSectors sector) const = 0;  ///< Altitude of the feature's base.
   virtual float ObsHt(WindSectors sector) const = 0;    ///< Obstruction height Ho (1.7.3).
   virtual float ObsSep(WindSectors sector) const = 0;   ///< Obstruction spacing Xo (1.7.3).
@@ -92,22 +92,22 @@ class BVe2X {
   /// Brings the results up to date with the inputs.
   virtual void Calculate() = 0;
 
-  virtual float Sp() const = 0;                           ///< Probability factor (annex D).
-  virtual float Ss() const = 0;                           ///< Seasonal factor (annex D).
-  virtual float Sd(WindSectors sector) const = 0;         ///< Direction factor (Table 3).
-  virtual float Sa(WindSectors sector) const = 0;         ///< Altitude factor (2.2.2.2).
-  virtual float Zd(WindSectors sector) const = 0;         ///< Displacement height Hd (1.7.3).
-  virtual float He(WindSectors sector) const = 0;         ///< Effective height (1.7.3).
-  virtual float Sh(WindSectors sector) const = 0;         ///< Topographic increment (Table 25).
-  virtual float Sc(WindSectors sector) const = 0;         ///< Fetch factor (Table 22).
-  virtual float St(WindSectors sector) const = 0;         ///< Turbulence factor (Table 22).
-  virtual float Tc(WindSectors sector) const = 0;         ///< Fetch adjustment factor (Table 23).
-  virtual float Tt(WindSectors sector) const = 0;         ///< Turbulence adjustment factor (Table 23).
-  virtual float gt(WindSectors sector) const = 0;         ///< Gust peak factor (Table 24).
-  virtual float Sb(WindSectors sector) const = 0;         ///< Terrain and building factor.
-  virtual float DirVal(WindSectors sector) const = 0;     ///< Directional dynamic pressure.
-  virtual float BSGust(WindSectors sector) const = 0;     ///< Hybrid dynamic pressure.
-  virtual float HybridCa(WindSectors sector) const = 0;   ///< Size effect factor (Figure 4).
+  virtual float Sp() const = 0;                          ///< Probability factor (annex D).
+  virtual float Ss() const = 0;                          ///< Seasonal factor (annex D).
+  virtual float Sd(WindSectors sector) const = 0;        ///< Direction factor (Table 3).
+  virtual float Sa(WindSectors sector) const = 0;        ///< Altitude factor (2.2.2.2).
+  virtual float Zd(WindSectors sector) const = 0;        ///< Displacement height Hd (1.7.3).
+  virtual float He(WindSectors sector) const = 0;        ///< Effective height (1.7.3).
+  virtual float Sh(WindSectors sector) const = 0;        ///< Topographic increment (Table 25).
+  virtual float Sc(WindSectors sector) const = 0;        ///< Fetch factor (Table 22).
+  virtual float St(WindSectors sector) const = 0;        ///< Turbulence factor (Table 22).
+  virtual float Tc(WindSectors sector) const = 0;        ///< Fetch adjustment factor (Table 23).
+  virtual float Tt(WindSectors sector) const = 0;        ///< Turbulence adjustment factor (Table 23).
+  virtual float gt(WindSectors sector) const = 0;        ///< Gust peak factor (Table 24).
+  virtual float Sb(WindSectors sector) const = 0;        ///< Terrain and building factor.
+  virtual float DirVal(WindSectors sector) const = 0;    ///< Directional dynamic pressure.
+  virtual float BSGust(WindSectors sector) const = 0;    ///< Hybrid dynamic pressure.
+  virtual float HybridCa(WindSectors sector) const = 0;  ///< Size effect factor (Figure 4).
 };
 
 }  // namespace orve

@@ -1,0 +1,27 @@
+// ORVE BS6399-2 Library 3.0: wind loads on buildings to BS 6399-2. A host includes this header and nothing
+// else.
+#pragma once
+
+#include "common/Error.h"
+#include "common/Event.h"
+#include "common/Host.h"
+#include "common/clsCommon.h"
+#include "common/clsMousePointer.h"
+#include "common/clsWinAPI.h"
+#include "core/ComponentClasses.h"
+#include "core/Enumerations.h"
+#include "core/Records.h"
+#include "core/basBS6399_2.h"
+#include "core/clsCurrentCase.h"
+#include "external/BreCpX.h"
+#include "external/WorstCaseSearch.h"
+#include "external/clsExternalCoefficients.h"
+#include "geometry/clsBuildingDimensions.h"
+#include "internal/clsInternalCoefficients.h"
+#include "loads/clsCantileverWindLoads.h"
+#include "loads/clsOverallAppliedLoads.h"
+#include "sitewind/BVe2X.h"
+#include "sitewind/clsDynamicPressure.h"
+#include "storage/clsCommonDialog.h"
+#include "storage/clsSaveFile.h"
+#include "storage/clsWindCaseList.h"
