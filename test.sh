@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Builds the project and runs all its tests, in a release build and in one with the address and
+# undefined-behaviour sanitizers. With --full also: the second compiler, the form of the sources, each header by
+# itself, an outside program against the installed package, and the slow tests. Installs what the machine misses
+# (Debian packages).
+set -u
+cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
+# shellcheck source=cmake/scripts.sh
+. cmake/scripts.sh
+
+FULL=0
+for argument in "$@"; do
+  case "$argument" in
+    --full) FULL=1 ;;
+    *)
+      echo "usage: ./test.sh [--full]" >&2
+      exit 2
+      ;;
+  esac
+done
+
+LOGS="$PWD/build/logs"
+mkdir -p "$LOGS"
+
+PACKAGES=(g++ cmake ninja-build libgtest-dev)
+[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libbenchmark-dev)
+install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
+
+check_format() {
+  git ls-files '*.h' '*.cpp' '*.c' | xargs clang-format --dry-run --Werror
+}
+
+# An outside program that knows nothing but the installation.
+check_installation() {
+  local prefix="$PWD/build/installed" outside="$PWD/build/outside"
+  rm -rf "$prefix" "$outside"
+  cmake --install build/release --prefix "$prefix" &&
+    cmake -S tests/install -B "$outside" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH="$prefix" &&
+    cmake --build "$outside" --parallel "$JOBS" &&
+    "$outside/outside"
+}
+
+check_demo() {
+  ./demo.sh
+}
+
+RELEASE_OPTIONS=()
+if [ $FULL -eq 1 ]; then
+  RELEASE_OPTIONS=(-DORVE_CHECK_HEADERS=ON -DORVE_BUILD_BENCH=ON)
+  # The slow tests read this.
+  export ORVE_LONG_TESTS=1
+fi
+
+step "build, release" build_preset release "${RELEASE_OPTIONS[@]}" && test_preset release
+step "build, address and undefined-behaviour sanitizers" build_preset debug && test_preset debug
+
+if [ $FULL -eq 1 ]; then
+  step "build, clang" build_preset clang && test_preset clang
+  step "form of the sources" check_format
+  step "installation and an outside program" check_installation
+  step "demo" check_demo
+fi
+
+finish
