@@ -1,0 +1,47 @@
+// The tables in force: those built in, each of which an office's table file may replace.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+#include "coefficients/TableForm.h"
+
+namespace orve::coefficients {
+
+/// The tables that the engine reads.
+enum class TableNumber : unsigned char { Table5, Table8, Table9, Table10, Table11, Table21 };
+
+inline constexpr std::size_t kTableCount = 6;
+
+/// The table as it is built in.
+const Table& BuiltInTable(TableNumber number);
+
+/// The table of a name as "Table 10"; null if there is none.
+const Table* FindBuiltInTable(std::string_view name);
+
+/// The tables of one engine.
+class TableSet {
+ public:
+  /// The built-in tables.
+  TableSet();
+
+  /// The table in force. Error 5 with file, line and reason if its table file is faulty.
+  const Table& Require(TableNumber number) const {
+    const Entry& entry = m_entries[static_cast<std::size_t>(number)];
+    if (!entry.table) RaiseFault(entry);
+    return *entry.table;
+  }
+
+ private:
+  struct Entry {
+    const Table* table = nullptr;
+    std::string fault;
+  };
+
+  [[noreturn]] static void RaiseFault(const Entry& entry);
+
+  std::array<Entry, kTableCount> m_entries;
+};
+
+}  // namespace orve::coefficients
