@@ -33,7 +33,7 @@ def walls(random):
 
 def eaves(random):
     """Each eaves type at, just below and just above its rows; b and H by turns the greater."""
-    for l, w, h in ((30, 20, 10), (50, 10, 40), (16, 100, 4)):
+    for l, w, h in ((30, 20, 10), (50, 10, 40), (16, 100, 4), (7, 45, 11)):
         for theta in RIGHT_ANGLES:
             b = min(l if theta in (0, 180) else w, 2 * h)
             yield case("sharp eaves", FLAT, theta=theta, L=l, W=w, H=h)
@@ -67,9 +67,9 @@ def pitched_roofs():
 
 def curved_roofs():
     for ratio in (0.05, *around(0.2), 0.25, *around(0.3), 0.45, *around(0.6), 0.9):
-        for springing in (0, 0.5, 6):
+        for springing, span in ((0, 10), (0.5, 7), (6, 13)):
             for theta in RIGHT_ANGLES:
-                yield case("curved roof", CURVED, theta=theta, W=10, H=springing, rise=10 * ratio)
+                yield case("curved roof", CURVED, theta=theta, W=span, H=springing, rise=span * ratio)
 
 
 def parapets():

@@ -3,6 +3,7 @@ from bisect import bisect_right
 from math import isfinite
 
 import coefficient_figures as fig
+from numbers32 import ratio
 from wind_rules import REFUSED, interpolate
 
 WALLS, FLAT, MONO, DUO, HIPPED, PARAPET, CURVED = 0, 2, 3, 4, 5, 8, 11
@@ -54,26 +55,21 @@ def wall(zone, c):
 
 def eaves_row(c):
     """Table 8: the figures of zones A to C, or REFUSED."""
-    features = [c[k] for k in ("parapet", "radius", "mansard") if c[k]]
-    if len(features) > 1:
+    if sum(c[k] != 0 for k in ("parapet", "radius", "mansard")) > 1:
         return REFUSED
     b = geometry(c)[2]
     if c["parapet"]:
-        table, ratio = fig.PARAPET, min(c["parapet"] / c["H"], c["parapet"] / b)
-        sharp = ratio < 0.05
+        table, x = fig.PARAPET, ratio(c["parapet"], max(c["H"], b))
+        sharp, refused = x < 0.05, False
     elif c["radius"]:
-        table, ratio = fig.CURVED_EAVES, c["radius"] / b
-        sharp = ratio < 0.05
-        if ratio > 0.2:
-            return REFUSED
+        table, x = fig.CURVED_EAVES, ratio(c["radius"], b)
+        sharp, refused = x < 0.05, x > 0.2
     elif c["mansard"]:
-        table, ratio = fig.MANSARD, c["mansard"]
-        sharp = ratio > 60
-        if ratio < 30:
-            return REFUSED
+        table, x = fig.MANSARD, c["mansard"]
+        sharp, refused = x > 60, x < 30
     else:
         return fig.SHARP
-    return fig.SHARP if sharp else [interpolate(table[0], column, ratio) for column in table[1]]
+    return REFUSED if refused else fig.SHARP if sharp else [interpolate(table[0], column, x) for column in table[1]]
 
 
 def flat(zone, c):
@@ -122,7 +118,7 @@ def windward_quarter(r, elevated):
 
 
 def curved(zone, c):
-    r = c["rise"] / c["W"] if c["W"] > 0 else 1.0
+    r = ratio(c["rise"], c["W"]) if c["W"] > 0 else 1.0
     if r > 0.6:
         return both(REFUSED)
     sharp = dict(zip("ABC", fig.SHARP))

@@ -26,3 +26,9 @@ def text32(x):
 def text(value):
     """An expected value to nine digits, or a mark."""
     return value if isinstance(value, str) else f"{value + 0.0:.9g}"
+
+
+def ratio(a, b):
+    """A quotient as its 32-bit decimal, so that 0.35 over 7 is 0.05 and lies on a table's edge, not beside it."""
+    quotient = f32(a / b)
+    return float(text32(quotient)) if isfinite(quotient) else quotient
