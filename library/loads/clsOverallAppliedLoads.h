@@ -2,13 +2,16 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "core/Enumerations.h"
 #include "core/Records.h"
+#include "external/ZoneSearch.h"
 
 namespace orve {
 
@@ -161,6 +164,26 @@ class clsOverallAppliedLoads {
   BuildingAreas Resolve(BuildingAreas buildingArea) const;
   Faces Resolve(Faces face) const;
   std::int16_t Resolve(std::int16_t zoneIndex) const;
+
+  // Position in the tables by area and face. Errors: 9 outside them.
+  struct AreaFace {
+    std::size_t Area;
+    std::size_t Face;
+  };
+  AreaFace Entry(BuildingAreas buildingArea, Faces face) const;
+  float SteppedValue(const AreaFaceTable<float>& table, BuildingAreas buildingArea, Faces face) const;
+  void SteppedValue(AreaFaceTable<float>& table, BuildingAreas buildingArea, Faces face, float value);
+  using BayLoad = float (clsOverallAppliedLoads::*)(float, float, float, float, float, float, float,
+                                                    float) const;
+  float SteppedBayLoad(BayLoad bayLoad, BuildingAreas buildingArea, Faces face) const;
+  ZoneSearch FindZoneOf(std::string_view description, BuildingAreas area, Faces face) const;
+  std::string SteppedLoadText(BuildingAreas area, Faces face) const;
+  std::string SelectedParapetLoads(SelectedLoadTypes selectedLoadType, Faces face) const;
+
+  const CantileverZones& CantileverRow(std::int16_t cantileverZoneIndex) const;
+  CantileverZones& LastCantileverRow();
+  void ListCantileverZones(Faces face, float width, bool results);
+  void AppendCantileverResult(Faces face, const std::string& label, const std::string& overallLoads);
 
   std::int16_t m_BuildingArea = 0;
   std::int16_t m_Face = 0;
