@@ -39,8 +39,8 @@ struct SourceRecord {
   std::string item;      ///< What is read there: the factor, or zone and wind direction.
   SourceStatus status = SourceStatus::Recalled;
   std::vector<SourceAxis> axes;  ///< Axes of the table; empty for a formula.
-  /// The table's figures at the corners, the last axis fastest: a figure for no axis, 2 for one axis, 4 for
-  /// two.
+  /// The table's figures that were read, the last axis fastest: both lines of each axis, one where `low` is
+  /// `high`; a formula's constant if it has one.
   std::vector<double> corners;
   std::string note;  ///< The formula, the engine's choice or a warning; may be empty.
 

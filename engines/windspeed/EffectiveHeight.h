@@ -1,0 +1,24 @@
+// Effective height behind obstructions (clause 1.7.3).
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+
+namespace orve::windspeed {
+
+/// Displacement height Hd in m, by the height Ho and the upwind spacing Xo of the obstructions (m). None in
+/// country terrain (recalled), nor for an Ho that isn't above 0 (the engine's choice). NaN if an input that
+/// counts is NaN.
+inline double DisplacementHeight(double ho, double xo, double inTown) {
+  if (std::isnan(inTown)) return inTown;
+  if (inTown <= 0 || ho <= 0) return 0;
+  return std::clamp(1.2 * ho - 0.2 * xo, 0.0, 0.8 * ho);
+}
+
+/// Effective height He in m of a reference height Hr.
+inline double EffectiveHeight(double hr, double hd) {
+  const double height = hr - hd;
+  return height < 0.4 * hr ? 0.4 * hr : height;
+}
+
+}  // namespace orve::windspeed
