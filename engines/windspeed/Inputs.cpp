@@ -1,6 +1,7 @@
 #include "windspeed/Inputs.h"
 
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace orve::windspeed {
@@ -107,7 +108,10 @@ std::string RefusalText(Input input, std::size_t sector, double value) {
 
 std::string ShownNumber(double value) {
   char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, value).ptr;
+  char* const last = text + sizeof text;
+  // Inputs are whole numbers or 32-bit values, which have a shorter text at their own width.
+  const auto end = value == std::trunc(value) ? std::to_chars(text, last, value).ptr
+                                              : std::to_chars(text, last, static_cast<float>(value)).ptr;
   return {text, end};
 }
 

@@ -69,7 +69,7 @@ struct InputValues {
 /// The refusal of a value: quantity, sector where it has one, value and the range that is allowed.
 std::string RefusalText(Input input, std::size_t sector, double value);
 
-/// A number's shortest text.
+/// A number's shortest text at 32 bits.
 std::string ShownNumber(double value);
 
 }  // namespace orve::windspeed

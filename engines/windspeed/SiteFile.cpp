@@ -112,7 +112,7 @@ class Parser {
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
     if (text.empty() || read.ec == std::errc::invalid_argument || read.ptr != text.data() + text.size() ||
         !std::isfinite(value))
-      return Fault(std::string(key), "\"" + std::string(text) + "\" isn't a number");
+      return Fault(std::string(key), std::string(text).append(" isn't a number"));
     if (read.ec != std::errc{}) Fault(std::string(key), std::string(text) + " doesn't fit a 32-bit number");
   }
 
@@ -172,7 +172,8 @@ SiteFile ParseSite(const std::string& text, const std::string& name) {
 SiteFile ReadSite(const std::string& dataFolder, const std::string& reference) {
   const std::string name = reference + ".site";
   if (!dataFolder.empty() && IsPlainName(reference))
-    if (const auto text = ReadWhole(NativePath(dataFolder + "\\" + name))) return ParseSite(*text, name);
+    for (const char* folder : {"\\", "\\sites\\"})
+      if (const auto text = ReadWhole(NativePath(dataFolder + folder + name))) return ParseSite(*text, name);
   SiteFile unknown;
   unknown.fault = reference.empty() ? "No site reference is given"
                                     : "The site " + reference + " isn't in " +

@@ -14,8 +14,8 @@ struct SiteFile {
   std::string fault;    ///< Empty if the values are good; else file, key and reason.
 };
 
-/// Reads "<data folder>\<reference>.site". A reference is a plain file name: one that would lead out of the
-/// folder is not found. Raises nothing for a missing or faulty file.
+/// Reads "<reference>.site" in the data folder or in its folder "sites". A reference is a plain file name:
+/// one that would lead out of the folder is not found. Raises nothing for a missing or faulty file.
 SiteFile ReadSite(const std::string& dataFolder, const std::string& reference);
 
 /// The values that a site file's text gives; `name` is the file's name for the fault's text.
