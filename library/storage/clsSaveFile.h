@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "common/Event.h"
@@ -92,7 +93,8 @@ class clsSaveFile {
   const std::string& DataBuffer() const { return m_DataBuffer; }
 
  private:
-  std::string AskUser(bool save);
+  std::optional<std::string> AskUser(bool save);
+  bool TakeOver(const std::string& name);
 
   std::string m_ApplicationName;
   clsCommonDialog* m_CommonDialog = nullptr;

@@ -6,6 +6,8 @@
 
 namespace orve {
 
+class clsSaveFile;
+
 /// The recent-file list with descriptions and dates. It stores nothing but a selection; every attribute is
 /// fetched from its file when asked for. Entries count from 1.
 class clsWindCaseList {
@@ -36,6 +38,7 @@ class clsWindCaseList {
   double Modified(std::int32_t index = -1) const;
 
  private:
+  static clsSaveFile& Manager();
   std::string Attribute(std::int32_t index, const std::string& key) const;
 
   std::int32_t m_Index = 0;

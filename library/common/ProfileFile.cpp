@@ -1,0 +1,147 @@
+#include "common/ProfileFile.h"
+
+#include <algorithm>
+
+#include "common/Error.h"
+#include "common/FileLayer.h"
+#include "common/LetterCase.h"
+#include "common/TextEncoding.h"
+
+namespace orve {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view Blanks = " \t";
+constexpr std::size_t LongestValue = 1024;
+
+std::string_view Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(Blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
+}
+
+std::string_view WithoutQuotes(std::string_view value) {
+  const bool quoted =
+      value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+bool StartsCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
+/// At most so many characters of a UTF-8 text.
+std::string FirstCharacters(std::string_view text, std::size_t count) {
+  std::size_t at = 0;
+  for (; at < text.size(); ++at)
+    if (StartsCharacter(text[at]) && count-- == 0) break;
+  return std::string(text.substr(0, at));
+}
+
+/// The upper-case name of a section line; empty for any other line.
+std::string SectionName(std::string_view line) {
+  const std::size_t close = line.find(']');
+  if (line.empty() || line.front() != '[' || close == std::string_view::npos) return {};
+  return UpperCase(Trim(line.substr(1, close - 1)));
+}
+
+}  // namespace
+
+struct ProfileFile::Line {
+  std::size_t begin;
+  std::size_t end;   ///< Behind the last character.
+  std::size_t next;  ///< Begin of the next line.
+};
+
+/// Where a key stands, or where it would be inserted.
+struct ProfileFile::Place {
+  bool sectionFound = false;
+  bool keyFound = false;
+  std::size_t valueBegin = 0;
+  std::size_t valueEnd = 0;
+  std::size_t insertAt = 0;
+};
+
+ProfileFile ProfileFile::Load(const std::string& path) {
+  try {
+    return ProfileFile(ToUtf8(ReadWholeFile(path)));
+  } catch (const Error& error) {
+    ProfileFile empty{std::string()};
+    const int number = error.Number();
+    empty.m_unreadable = number != static_cast<int>(ErrorNumber::FileNotFound) &&
+                         number != static_cast<int>(ErrorNumber::PathNotFound);
+    return empty;
+  }
+}
+
+ProfileFile::Line ProfileFile::LineAt(std::size_t begin) const {
+  const std::size_t end = std::min(m_text.find_first_of(LineEnd, begin), m_text.size());
+  const bool carriageReturn = m_text.compare(end, 2, LineEnd) == 0;
+  return {begin, end, std::min(end + (carriageReturn ? 2 : 1), m_text.size())};
+}
+
+ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view key) const {
+  const std::string wantedSection = UpperCase(Trim(section));
+  const std::string wantedKey = UpperCase(Trim(key));
+  Place place;
+  for (std::size_t at = 0; at < m_text.size();) {
+    const Line line = LineAt(at);
+    at = line.next;
+    const std::string_view whole = std::string_view(m_text).substr(line.begin, line.end - line.begin);
+    const std::string_view text = Trim(whole);
+    if (text.empty() || text.front() == ';') continue;
+    if (text.front() == '[') {
+      if (place.sectionFound) break;
+      place.sectionFound = SectionName(text) == wantedSection;
+      place.insertAt = line.next;
+      continue;
+    }
+    if (!place.sectionFound) continue;
+    place.insertAt = line.next;
+    const std::size_t sign = whole.find('=');
+    if (sign == std::string_view::npos || UpperCase(Trim(whole.substr(0, sign))) != wantedKey) continue;
+    place.keyFound = true;
+    place.valueBegin = line.begin + sign + 1;
+    place.valueEnd = line.end;
+    break;
+  }
+  return place;
+}
+
+std::optional<std::string> ProfileFile::Value(std::string_view section, std::string_view key) const {
+  const Place place = Find(section, key);
+  if (!place.keyFound) return std::nullopt;
+  const auto value = std::string_view(m_text).substr(place.valueBegin, place.valueEnd - place.valueBegin);
+  return FirstCharacters(WithoutQuotes(Trim(value)), LongestValue);
+}
+
+void ProfileFile::Value(std::string_view section, std::string_view key, std::string_view value) {
+  const std::string_view stored = value.substr(0, value.find_first_of(LineEnd));
+  const Place place = Find(section, key);
+  if (place.keyFound) {
+    m_text.replace(place.valueBegin, place.valueEnd - place.valueBegin, stored);
+    return;
+  }
+  std::string added;
+  std::size_t at = place.insertAt;
+  if (!place.sectionFound) {
+    at = m_text.size();
+    added.append("[").append(section).append("]").append(LineEnd);
+  }
+  added.append(key).append("=").append(stored).append(LineEnd);
+  const bool lineIsOpen = at > 0 && m_text[at - 1] != '\n' && m_text[at - 1] != '\r';
+  if (lineIsOpen) added.insert(0, LineEnd);
+  m_text.insert(at, added);
+}
+
+void ProfileFile::Store(const std::string& path) const {
+  if (m_unreadable) return;
+  try {
+    WriteWholeFile(path, m_text, Durability::Atomic);
+  } catch (const Error&) {
+    // An unwritable settings file leaves the setting unsaved; it never stops the operation that sets it.
+  }
+}
+
+}  // namespace orve

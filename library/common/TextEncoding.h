@@ -1,0 +1,13 @@
+// Text of files from older machines.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orve {
+
+/// The text as UTF-8: what is valid UTF-8 stands (without a byte order mark), any other byte is taken as
+/// Windows-1252.
+std::string ToUtf8(std::string_view bytes);
+
+}  // namespace orve

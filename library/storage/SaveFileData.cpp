@@ -1,0 +1,98 @@
+// The document's text: its keys, and its way from and to the file.
+#include "common/DateText.h"
+#include "common/Error.h"
+#include "common/FileLayer.h"
+#include "common/HostCalls.h"
+#include "common/TextEncoding.h"
+#include "common/clsCommon.h"
+#include "storage/clsSaveFile.h"
+
+namespace orve {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view LineEndsAndBlanks = "\r\n ";
+constexpr auto None = std::string::npos;
+
+std::string SectionHead(const std::string& section) {
+  return "[" + section + "]";
+}
+
+// The line feed of the line before belongs to the search, so that a key is found at a line's begin only.
+std::string KeyHead(const std::string& key) {
+  return "\n" + key + "=";
+}
+
+/// Where the text ends that stands before `end`, once line ends and blanks are stepped over: the position
+/// behind its last character.
+std::size_t StepBack(const std::string& text, std::size_t end) {
+  return end == 0 ? 0 : text.find_last_not_of(LineEndsAndBlanks, end - 1) + 1;
+}
+
+/// A file from a machine with other line ends.
+std::string WithCarriageReturns(const std::string& text) {
+  std::string lines;
+  lines.reserve(text.size() + text.size() / 16);
+  for (const char character : text) {
+    if (character == '\n') lines += '\r';
+    lines += character;
+  }
+  return lines;
+}
+
+}  // namespace
+
+std::string clsSaveFile::Data(const std::string& section, const std::string& key,
+                              const std::string& defaultText) const {
+  const std::string head = SectionHead(section);
+  const std::size_t headAt = m_DataBuffer.find(head);
+  if (headAt == None) return defaultText;
+  const std::size_t begin = headAt + head.size();
+  const std::size_t end = std::min(m_DataBuffer.find('[', begin), m_DataBuffer.size());
+  const std::string keyHead = KeyHead(key);
+  const std::size_t keyAt = m_DataBuffer.find(keyHead, begin);
+  if (keyAt == None || keyAt > end) return defaultText;
+  const std::size_t valueAt = keyAt + keyHead.size();
+  return m_DataBuffer.substr(valueAt, m_DataBuffer.find('\r', valueAt) - valueAt);
+}
+
+void clsSaveFile::Data(const std::string& section, const std::string& key, const std::string& /*defaultText*/,
+                       const std::string& value) {
+  const std::string head = SectionHead(section);
+  const std::string line = key + "=" + value;
+  const std::size_t headAt = m_DataBuffer.find(head);
+  if (headAt == None) {
+    if (!m_DataBuffer.empty()) m_DataBuffer += LineEnd;
+    m_DataBuffer.append(head).append(LineEnd).append(line).append(LineEnd);
+    return;
+  }
+  const std::size_t begin = headAt + head.size();
+  const std::size_t sectionEnd =
+      StepBack(m_DataBuffer, std::min(m_DataBuffer.find('[', begin), m_DataBuffer.size()));
+  const std::string keyHead = KeyHead(key);
+  const std::size_t keyAt = m_DataBuffer.find(keyHead, begin);
+  if (keyAt != None && keyAt < sectionEnd) {
+    const std::size_t valueAt = keyAt + keyHead.size();
+    const std::size_t lineEnd = std::min(m_DataBuffer.find('\r', valueAt), m_DataBuffer.size());
+    m_DataBuffer.replace(valueAt, StepBack(m_DataBuffer, lineEnd) - valueAt, value);
+    return;
+  }
+  const bool lineEnds = m_DataBuffer.compare(sectionEnd, LineEnd.size(), LineEnd) == 0;
+  m_DataBuffer.insert(sectionEnd, std::string(LineEnd) + line + std::string(lineEnds ? "" : LineEnd));
+}
+
+void clsSaveFile::ReadData(const std::string& fileName) {
+  const std::string text = ToUtf8(ReadWholeFile(fileName));
+  m_DataBuffer = text.find('\r') == None ? WithCarriageReturns(text) : text;
+}
+
+void clsSaveFile::WriteData(const std::string& fileName) {
+  const double now = HostNow();
+  Data("UpdateLog", clsCommon().AppVersion(), std::string(), LongDateText(now) + ", " + LongTimeText(now));
+  if (m_DataBuffer.size() > LargestFile)
+    throw Error(ErrorNumber::InvalidArgument, "The case is larger than 16 MB: " + StoredPath(fileName));
+  WriteWholeFile(fileName, m_DataBuffer, Durability::Flushed);
+}
+
+}  // namespace orve

@@ -1,0 +1,148 @@
+// The state of the document, its opening and its saving.
+#include "storage/clsSaveFile.h"
+
+#include <optional>
+
+#include "common/Error.h"
+#include "common/FileLayer.h"
+#include "common/HostCalls.h"
+#include "common/NumberText.h"
+#include "common/clsCommon.h"
+#include "common/clsWinAPI.h"
+#include "storage/clsCommonDialog.h"
+
+namespace orve {
+
+namespace {
+
+constexpr const char* LibraryTitle = "ORVE3_BS6399_2";
+constexpr const char* PathKey = "PathToSaveFiles";
+constexpr std::int32_t StopButtons = 16;
+
+bool IsCancel(const Error& error) {
+  return error.Number() == static_cast<int>(ErrorNumber::DialogCancelled);
+}
+
+}  // namespace
+
+clsSaveFile::clsSaveFile() : m_ApplicationName(LibraryTitle) {}
+
+std::string clsSaveFile::PathToSaveFiles() const {
+  return clsWinAPI().API_PrivateProfileString(m_PathToApplicationINI, m_ApplicationName, PathKey,
+                                              HostLibraryFolder());
+}
+
+void clsSaveFile::PathToSaveFiles(const std::string& value) {
+  clsWinAPI().API_PrivateProfileString(m_PathToApplicationINI, m_ApplicationName, PathKey, std::string(),
+                                       StoredPath(value));
+}
+
+void clsSaveFile::Blank(bool value) {
+  m_Blank = value;
+  BlankUpdated.Raise(value);
+  if (value) Dirty(false);
+}
+
+void clsSaveFile::Dirty(bool value) {
+  m_Dirty = value;
+  DirtyUpdated.Raise(value);
+  if (value) Blank(false);
+}
+
+void clsSaveFile::FileName(const std::string& value) {
+  m_FileName = StoredPath(value);
+  FileNameUpdated.Raise(std::string(m_FileName));
+}
+
+bool clsSaveFile::NewFile() {
+  bool cancel = false;
+  NewFileEvent.Raise(cancel);
+  if (cancel) return false;
+  Blank(true);
+  Dirty(false);
+  FileName(std::string());
+  m_DataBuffer.clear();
+  return true;
+}
+
+bool clsSaveFile::OpenFile(const std::string& fileNameToOpen) {
+  try {
+    std::string name = StoredPath(fileNameToOpen);
+    if (TrimBlanks(name).empty()) {
+      const auto chosen = AskUser(false);
+      if (!chosen) return false;
+      name = *chosen;
+    }
+    const clsCommon common;
+    PathToSaveFiles(common.ExtractPathName(name));
+    if (!common.FileExists(name)) {
+      common.MsgBox("Unable to Access Save File: " + std::string(TrimBlanks(name)), StopButtons,
+                    "Cannot Continue");
+      return false;
+    }
+    bool cancel = false;
+    OpenFileEvent.Raise(name, cancel);
+    return !cancel && TakeOver(name);
+  } catch (const Error& error) {
+    if (IsCancel(error)) return false;
+    throw;
+  }
+}
+
+bool clsSaveFile::SaveFile(const std::string& fileNameToSave) {
+  try {
+    std::string name = StoredPath(fileNameToSave);
+    if (TrimBlanks(name).empty()) {
+      const auto chosen = AskUser(true);
+      if (!chosen) return false;
+      name = *chosen;
+    }
+    PathToSaveFiles(clsCommon().ExtractPathName(name));
+    bool cancel = false;
+    SaveFileEvent.Raise(name, cancel);
+    return !cancel && TakeOver(name);
+  } catch (const Error& error) {
+    if (IsCancel(error)) return false;
+    throw;
+  }
+}
+
+bool clsSaveFile::TakeOver(const std::string& name) {
+  Blank(false);
+  Dirty(false);
+  FileName(name);
+  return true;
+}
+
+std::optional<std::string> clsSaveFile::AskUser(bool save) {
+  if (m_CommonDialog == nullptr) throw Error(ErrorNumber::ObjectNotSet, "The file dialog isn't there");
+  constexpr std::int32_t fileAndPathMustExist = 6144;
+  constexpr std::int32_t askBeforeOverwriting = 2050;
+  const KeptCurrentFolder folder;
+  const std::string verb = save ? "Save" : "Open";
+  const std::string pattern = "(*." + m_FileExtension + ")|*." + m_FileExtension + "|All Files (*.*)|*.*";
+  const bool described = !m_FileDescription.empty();
+  clsCommonDialog& dialog = *m_CommonDialog;
+  dialog.CancelError = true;
+  dialog.DefaultExt = m_FileExtension;
+  if (described)
+    dialog.DialogTitle = verb + " " + m_FileDescription + (save ? " As" : "");
+  else
+    dialog.DialogTitle = save ? "Save As" : "Open";
+  dialog.Filter = (described ? m_FileDescription : std::string("Save")) + " Files " + pattern;
+  dialog.Flags = save ? askBeforeOverwriting : fileAndPathMustExist;
+  dialog.InitDir = PathToSaveFiles();
+  dialog.FileName = clsCommon().ExtractFileNameWithoutExtension(m_FileName);
+  bool cancel = false;
+  try {
+    save ? dialog.ShowSave() : dialog.ShowOpen();
+  } catch (const Error& error) {
+    if (!IsCancel(error)) throw;
+    cancel = true;
+  }
+  HostDoEvents();
+  if (cancel) return std::nullopt;
+  return StoredPath(dialog.FileName);
+}
+
+}  // namespace orve
