@@ -1,0 +1,87 @@
+#include "Describe.h"
+#include "loads/clsOverallAppliedLoads.h"
+
+namespace orve::automation {
+
+const ClassDescription& DescribeOverallAppliedLoads() {
+  using Class = clsOverallAppliedLoads;
+  static const ClassDescription description = [] {
+    ClassDescriber<Class> describe(
+        "clsOverallAppliedLoads", "Loads by zone, selected, stepped and bay loads, and cantilevers",
+        {"94c02973-6155-4495-a673-76f9d0acc7c7", "f8713f73-a830-453a-bd29-d64369840e2e", ""});
+    const ArgumentNames none;
+    const ArgumentNames areaAndFace{{"BuildingArea", -1}, {"Face", -1}};
+    const ArgumentNames zone{{"BuildingArea", -1}, {"Face", -1}, {"ZoneIndex", -1}};
+    const ArgumentNames row{{"CantileverZoneIndex", {}}};
+    const ArgumentNames steps{{"Span_L1", {}},     {"Span_L2", {}},     {"Span_L3", {}}, {"WindLoad_W1", {}},
+                              {"WindLoad_W2", {}}, {"WindLoad_W3", {}}, {"Step_Z1", {}}, {"Step_Z2", {}}};
+    ORVE_METHOD(1, GetCantileverZones, none, "", "Copy of the cantilever zone table");
+    ORVE_METHOD(2, GetCantileverResults, none, "", "Copy of the cantilever result table");
+    ORVE_PROPERTY(3, BuildingArea, none, "", "Building area taken where an argument is -1");
+    ORVE_PROPERTY(4, Face, none, "", "Face taken where an argument is -1");
+    ORVE_PROPERTY(5, ZoneIndex, none, "", "Zone taken where an argument is -1");
+    ORVE_READ_ONLY(6, ZoneIndexFrom, areaAndFace, "", "First zone of a face");
+    ORVE_READ_ONLY(7, ZoneIndexTo, areaAndFace, "", "Last zone of a face; -1 if there are none");
+    ORVE_READ_ONLY(8, Hybrid_ZoneDescription, zone, "", "The zone's name");
+    ORVE_READ_ONLY(9, Hybrid_ZoneDimensions, zone, "", "The zone's lengths as text");
+    ORVE_READ_ONLY(10, Hybrid_ExternalAppliedLoads, zone, "", "The zone's external loads as text");
+    ORVE_READ_ONLY(11, Hybrid_InternalAppliedLoads, zone, "", "The zone's internal loads as text");
+    ORVE_READ_ONLY(12, Hybrid_OverallAppliedLoad_Pressure, zone, "kN/m\u00B2", "Greatest positive net load");
+    ORVE_READ_ONLY(13, Hybrid_OverallAppliedLoad_Suction, zone, "kN/m\u00B2", "Most negative net load");
+    ORVE_READ_ONLY(14, Hybrid_OverallAppliedLoads, zone, "", "Both net loads as text");
+    ORVE_PROPERTY(15, SelectedFace, none, "", "The face that the host has chosen");
+    ORVE_PROPERTY(16, SelectedLoadType, areaAndFace, "", "The load chosen for an area and face");
+    ORVE_READ_ONLY(17, SelectedLoadValues, areaAndFace, "", "The chosen load as text");
+    ORVE_READ_ONLY(18, SelectedLoadValues_External, areaAndFace, "",
+                   "The stepped load over the end bay as text");
+    ORVE_READ_ONLY(19, SelectedLoadValues_Internal, areaAndFace, "",
+                   "The stepped load over the internal bay as text");
+    ORVE_PROPERTY(20, SteppedWind_Load_1, areaAndFace, "kN/m\u00B2", "Load of the first step");
+    ORVE_PROPERTY(21, SteppedWind_Load_2, areaAndFace, "kN/m\u00B2", "Load of the second step");
+    ORVE_PROPERTY(22, SteppedWind_Load_3, areaAndFace, "kN/m\u00B2", "Load behind the second step");
+    ORVE_PROPERTY(23, SteppedWind_Distance_1, areaAndFace, "m", "Length of the first step");
+    ORVE_PROPERTY(24, SteppedWind_Distance_2, areaAndFace, "m", "Length of the second step");
+    ORVE_PROPERTY(25, SteppedWind_Distance_3, areaAndFace, "m", "Length of the third step");
+    ORVE_PROPERTY(26, SteppedWind_Span, areaAndFace, "m", "Span of the member");
+    ORVE_READ_ONLY(27, SteppedWind_Load, areaAndFace, "kN/m\u00B2", "Average over the span");
+    ORVE_READ_ONLY(28, SteppedWind_Load_External, areaAndFace, "kN/m\u00B2", "Average over the end bay");
+    ORVE_READ_ONLY(29, SteppedWind_Load_Internal, areaAndFace, "kN/m\u00B2", "Average over the internal bay");
+    ORVE_PROPERTY(30, CantileverZoneIndexFrom, none, "", "First row of the cantilever zone table");
+    ORVE_PROPERTY(31, CantileverZoneIndexTo, none, "", "Last row of the cantilever zone table");
+    ORVE_READ_ONLY(32, CantileverZoneDescription, row, "", "Label of a cantilever zone");
+    ORVE_READ_ONLY(33, CantileverZoneDimensions, row, "", "Lengths of a cantilever zone as text");
+    ORVE_READ_ONLY(34, Cantilever_ExternalAppliedLoads, row, "", "Roof load above a cantilever zone as text");
+    ORVE_READ_ONLY(35, Cantilever_InternalAppliedLoads, row, "",
+                   "Wall pressures under a cantilever zone as text");
+    ORVE_READ_ONLY(36, Cantilever_OverallAppliedLoads, row, "", "Net loads of a cantilever zone as text");
+    ORVE_METHOD(37, ExternalBayLoad, steps, "kN/m\u00B2", "Average of a stepped load over the first bay");
+    ORVE_METHOD(38, InternalBayLoad, steps, "kN/m\u00B2", "Average of a stepped load over the second bay");
+    ORVE_METHOD(39, CantileverValues, ArgumentNames({{"BuildingArea", -1}, {"Face", -1}, {"Results", false}}),
+                "", "Finds the cantilever zones of a wind face and their loads; True if there are any");
+    ORVE_METHOD(40, SelectedCantileverLoadValues, areaAndFace, "",
+                "The chosen load in the form of a cantilever text");
+    ORVE_METHOD(41, ResetCantileverResults, none, "", "Makes the result table one blank row");
+    ORVE_METHOD(42, TrimCantileverResults, none, "", "Drops the blank last row of the result table");
+    ORVE_READ_ONLY(43, CantileverZoneWidthWarning, areaAndFace, "",
+                   "Unequal cantilevers lie across the wind on this roof face");
+    ORVE_READ_ONLY(44, ContinuousSteppedWind, areaAndFace, "",
+                   "The end-bay and internal-bay loads are the ones that apply");
+    ORVE_METHOD(45, ZoneIndexFromSelectedLoadType,
+                ArgumentNames({{"SelectedLoadType", {}}, {"BuildingArea", -1}, {"Face", -1}}), "",
+                "Zone of a load type on a face; ZoneIndexTo + 1 if there is none");
+    ORVE_METHOD(46, SelectedLoadTypeFromZoneIndex,
+                ArgumentNames({{"ZoneIndex", {}}, {"BuildingArea", -1}, {"Face", -1}}), "",
+                "Load type of a zone of a face");
+    ORVE_METHOD(47, SelectedLoadTypeFromZoneDescription, ArgumentNames({{"ZoneDescription", {}}}), "",
+                "Load type of a zone's name");
+    ORVE_METHOD(48, ZoneDescriptionFromSelectedLoadType, ArgumentNames({{"SelectedLoadType", {}}}), "",
+                "Zone's name of a load type");
+    ORVE_METHOD(49, ZoneIndexFromZoneDescription,
+                ArgumentNames({{"ZoneDescription", {}}, {"BuildingArea", -1}, {"Face", -1}}), "",
+                "Zone of a name on a face; ZoneIndexTo + 1 if there is none");
+    return describe.Finish();
+  }();
+  return description;
+}
+
+}  // namespace orve::automation
