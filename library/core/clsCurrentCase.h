@@ -145,6 +145,7 @@ class clsCurrentCase : public std::enable_shared_from_this<clsCurrentCase> {
   clsCurrentCase();
   void Construct();
   void SetUpSaveFile();
+  void ConnectSaveFile();
   void MigrateSettingsFile() const;
   void ApplyParentContext();
   void SetCreated(double value);

@@ -129,13 +129,15 @@ class clsExternalCoefficients {
   void ScanParapet(bool warning);
   void ScanOtherRoof(Faces face, ResultsScreens resultsScreen, bool warning);
   void AppendFixedWallZone(double theta, const char* description);
-  void AppendZone(std::int16_t componentZoneIndex, std::string description, const ZoneExtent& extent);
+  ZoneRecord& AppendZone(std::int16_t componentZoneIndex);
+  void ReadBackDimensions(ZoneRecord& zone) const;
+  void AddComponentZone(std::int16_t componentZoneIndex, const char* suffix, ResultsScreens resultsScreen,
+                        bool warning);
   void AddComponentZones(const char* suffix, ResultsScreens resultsScreen, bool warning);
   bool CalculateZoneExtent(ZoneExtent& extent, ResultsScreens resultsScreen, bool warning) const;
   const ZoneRecord& ZoneAt(std::int16_t zoneIndex) const;
 
-  float ManualCpe(const ManualTable& table, const ZoneAddress& zone) const;
-  void StoreManualCpe(ManualTable& table, const ZoneAddress& zone, float value);
+  static float& ManualCpe(ManualTable& table, const ZoneAddress& zone);
   float ComponentCpe(const ZoneAddress& zone, bool suction);
   float ApplyBayFactor(float coefficient, const ZoneAddress& zone) const;
   WindAreas WindAreaOf(BuildingAreas buildingArea, Faces face) const;

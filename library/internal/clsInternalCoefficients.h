@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "core/Enumerations.h"
@@ -14,7 +15,7 @@ namespace orve {
 /// property is a shortcut that writes coefficients (2.6); it reads True only if it was chosen and its numbers
 /// still stand, compared at three decimals. A face of exactly -1 means the property `Face`. Errors: 9 for a
 /// face outside 0 to 3.
-class clsInternalCoefficients {
+class clsInternalCoefficients : public std::enable_shared_from_this<clsInternalCoefficients> {
  public:
   clsInternalCoefficients();
 
@@ -112,11 +113,13 @@ class clsInternalCoefficients {
   void WriteToSaveFile() const;
 
   Faces Resolve(Faces face) const;
+  int FaceIndex(Faces face) const;
   bool RuleStands(const EnclosedRule& rule) const;
   void WriteRule(const EnclosedRule& rule);
-  void SetRule(const EnclosedRule& rule, bool value);
-  void SetExclusiveRule(const EnclosedRule& rule, bool value);
-  std::int16_t FindSelectedZone(Faces face, bool& found) const;
+  void SetRule(const EnclosedRule& rule, bool present, bool value);
+  void SetExclusiveRule(const EnclosedRule& rule, bool present, bool value);
+  template <class ReadCpe>
+  float SelectedZoneCpe(Faces face, ReadCpe readCpe) const;
   bool RatioStands(Faces face, const FaceFlags& flags, double ratio) const;
   void SetRatio(Faces face, FaceFlags& flags, double ratio, bool present, bool value);
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "core/Enumerations.h"
@@ -15,7 +16,7 @@ class BVe2X;
 /// building and one of the twelve sectors. No result is kept: every read asks the component. Argument
 /// `windArea` is 0 to 5, `windSector` 0 to 11; exactly -1 means the object's own property. Errors of the
 /// component pass to the caller unchanged; 91 if there is no component.
-class clsDynamicPressure {
+class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressure> {
  public:
   clsDynamicPressure();
 
@@ -162,8 +163,8 @@ class clsDynamicPressure {
   void RefreshWindComponent();
   void LoadSiteByGridReference(const std::string& reference);
   void SendSectorValues(BVe2X& component, int sector);
-  void CopySiteFromComponent();
-  bool SiteDiffersFromComponent() const;
+  void CopySiteFromComponent(const BVe2X& component);
+  bool SiteDiffersFrom(const clsDynamicPressure& other) const;
   float SectorValue(WindSectors windSector, float (BVe2X::*get)(WindSectors) const);
   void SectorValue(WindSectors windSector, SectorValues& values, float value);
 
@@ -173,8 +174,9 @@ class clsDynamicPressure {
   float HeightOf(WindAreas windArea) const;
   float DiagonalOf(WindAreas windArea) const;
   void SetHeightAndDiagonal(float height, float diagonal);
-  float Factor(WindAreas windArea, WindSectors windSector, ComponentFactor factor);
-  float ManualResult(const ResultTable& table, WindAreas windArea, WindSectors windSector) const;
+  float Factor(WindAreas windArea, WindSectors windSector, ComponentFactor factor,
+               bool terrainFactor = false);
+  float& ManualResult(ResultTable& table, WindAreas windArea, WindSectors windSector) const;
 
   std::int16_t m_WindArea = 0;
   std::int16_t m_WindSector = 0;

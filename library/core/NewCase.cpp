@@ -1,0 +1,32 @@
+// A new case: the one place that makes all the data objects.
+#include "core/clsCurrentCase.h"
+#include "external/clsExternalCoefficients.h"
+#include "geometry/clsBuildingDimensions.h"
+#include "internal/clsInternalCoefficients.h"
+#include "loads/clsCantileverWindLoads.h"
+#include "loads/clsOverallAppliedLoads.h"
+#include "sitewind/clsDynamicPressure.h"
+#include "storage/clsSaveFile.h"
+
+namespace orve {
+
+void clsCurrentCase::Clear() {
+  const auto self = shared_from_this();
+  if (m_iclsSaveFile->NewFile()) ApplyParentContext();
+}
+
+void clsCurrentCase::m_iclsSaveFile_NewFile() {
+  BreCp_Dirty(false);
+  BreVe_Dirty(false);
+  Description("");
+  SetCreated(0);
+  SetModified(0);
+  m_BuildingDimensions = std::make_shared<clsBuildingDimensions>();
+  m_DynamicPressure = std::make_shared<clsDynamicPressure>();
+  m_ExternalCoefficients = std::make_shared<clsExternalCoefficients>();
+  m_InternalCoefficients = std::make_shared<clsInternalCoefficients>();
+  m_OverallAppliedLoads = std::make_shared<clsOverallAppliedLoads>();
+  m_CantileverWindloads = std::make_shared<clsCantileverWindLoads>();
+}
+
+}  // namespace orve
