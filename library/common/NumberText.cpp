@@ -63,8 +63,8 @@ char DigitAt(const Decimal& decimal, int position) {
   return position >= 0 && position < decimal.count ? decimal.digits[position] : '0';
 }
 
-std::string Magnitude(const Decimal& decimal, int places) {
-  std::string text;
+std::string PlainText(std::string_view sign, const Decimal& decimal, int places) {
+  std::string text(sign);
   const int whole = decimal.IsZero() ? 0 : decimal.exponent;
   if (whole <= 0) text += '0';
   for (int position = 0; position < whole; ++position) text += DigitAt(decimal, position);
@@ -82,14 +82,14 @@ std::string Fixed(Float value, int places) {
   if (!std::isfinite(value)) return NotFinite(value);
   const Decimal decimal = Round(Decompose(value), places);
   const bool sign = decimal.negative && !decimal.IsZero();
-  return (sign ? "-" : "") + Magnitude(decimal, places);
+  return PlainText(sign ? "-" : "", decimal, places);
 }
 
 template <class Float>
 std::string Signed(Float value) {
   if (!std::isfinite(value)) return NotFinite(value);
   constexpr int places = 3;
-  return (value < 0 ? "-" : "+") + Magnitude(Round(Decompose(value), places), places);
+  return PlainText(value < 0 ? "-" : "+", Round(Decompose(value), places), places);
 }
 
 template <class Float>

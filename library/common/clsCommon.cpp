@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "common/DateText.h"
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 
@@ -107,6 +108,10 @@ std::string clsCommon::MakeString(const char* value, const std::string& defaultT
 
 std::string clsCommon::MakeString(const std::string& value, const std::string&) const {
   return value;
+}
+
+double clsCommon::MakeDate(const std::string& value, double defaultDate) const {
+  return ParseDate(value).value_or(defaultDate);
 }
 
 bool clsCommon::MakeBoolean(const std::string& value, bool defaultValue) const {

@@ -3,6 +3,7 @@
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 #include "common/clsCommon.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "external/BreCpX.h"
 #include "external/clsExternalCoefficients.h"
@@ -22,9 +23,12 @@ bool IsRoofOrWalls(BuildingAreas area) {
 
 double BayFactor(Bays bay) {
   switch (bay) {
-    case Bays::Second_Bay: return SecondBayFactor;
-    case Bays::All_Remaining_Bays: return RemainingBaysFactor;
-    default: return 1;
+    case Bays::Second_Bay:
+      return SecondBayFactor;
+    case Bays::All_Remaining_Bays:
+      return RemainingBaysFactor;
+    default:
+      return 1;
   }
 }
 
@@ -65,34 +69,39 @@ float clsExternalCoefficients::ComponentCpe(const ZoneAddress& zone, bool suctio
 float clsExternalCoefficients::ApplyBayFactor(float coefficient, const ZoneAddress& zone) const {
   if (zone.area != BuildingAreas::baRoof) return coefficient;
   if (zone.face != Faces::Face_1 && zone.face != Faces::Face_3) return coefficient;
-  if (RequireCurrentCase().BuildingDimensions()->Roof_FrameType() == FrameTypes::Frames_1) return coefficient;
+  if (CaseBuildingDimensions()->Roof_FrameType() == FrameTypes::Frames_1) return coefficient;
   return ToSingle(coefficient * BayFactor(Bay()));
 }
 
 float clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Pressure(BuildingAreas buildingArea,
-                                                                            Faces face, std::int16_t zoneIndex) {
+                                                                             Faces face,
+                                                                             std::int16_t zoneIndex) {
   const ZoneAddress zone = Resolve(buildingArea, face, zoneIndex);
   if (ManualResults()) return ManualCpe(m_ManualCpe_Pressure, zone);
   return ApplyBayFactor(ComponentCpe(zone, false), zone);
 }
 
-void clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Pressure(BuildingAreas buildingArea, Faces face,
-                                                                           std::int16_t zoneIndex, float value) {
+void clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Pressure(BuildingAreas buildingArea,
+                                                                            Faces face,
+                                                                            std::int16_t zoneIndex,
+                                                                            float value) {
   if (!ManualResults()) return;
   const ZoneAddress zone = Resolve(buildingArea, face, zoneIndex);
   if (Differs(Hybrid_ExternalCoefficientFactor_Cpe_Pressure(zone.area, zone.face, zone.zone), value))
     StoreAndMarkDirty(ManualCpe(m_ManualCpe_Pressure, zone), value);
 }
 
-float clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Suction(BuildingAreas buildingArea, Faces face,
-                                                                           std::int16_t zoneIndex) {
+float clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Suction(BuildingAreas buildingArea,
+                                                                            Faces face,
+                                                                            std::int16_t zoneIndex) {
   const ZoneAddress zone = Resolve(buildingArea, face, zoneIndex);
   if (ManualResults()) return ManualCpe(m_ManualCpe_Suction, zone);
   return ApplyBayFactor(ComponentCpe(zone, true), zone);
 }
 
-void clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Suction(BuildingAreas buildingArea, Faces face,
-                                                                          std::int16_t zoneIndex, float value) {
+void clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Suction(BuildingAreas buildingArea,
+                                                                           Faces face, std::int16_t zoneIndex,
+                                                                           float value) {
   if (!ManualResults()) return;
   const ZoneAddress zone = Resolve(buildingArea, face, zoneIndex);
   if (Differs(Hybrid_ExternalCoefficientFactor_Cpe_Suction(zone.area, zone.face, zone.zone), value))
@@ -102,10 +111,12 @@ void clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Suction(Build
 // The wind area follows the face that carries the zone, the normal follows the face that the wind comes from.
 WindAreas clsExternalCoefficients::WindAreaOf(BuildingAreas buildingArea, Faces face) const {
   switch (buildingArea) {
-    case BuildingAreas::baWalls: return GableFace(face) ? WindAreas::waGable : WindAreas::waSidewall;
+    case BuildingAreas::baWalls:
+      return GableFace(face) ? WindAreas::waGable : WindAreas::waSidewall;
     case BuildingAreas::baParapet:
       return GableFace(face) ? WindAreas::waGableParapet : WindAreas::waSidewallParapet;
-    default: return WindAreas::waRoof;
+    default:
+      return WindAreas::waRoof;
   }
 }
 
@@ -117,10 +128,9 @@ WorstCase clsExternalCoefficients::Hybrid_WorstCaseSearch(BuildingAreas building
   const Faces windFace = area == BuildingAreas::baRoof
                              ? onFace
                              : static_cast<Faces>(Hybrid_WindFromFace(area, onFace, Resolve(zoneIndex)));
-  const auto root = RequireCurrentCase().shared_from_this();
-  const bool orientationUnknown = root->BuildingDimensions()->OrientationUnknown();
+  const bool orientationUnknown = CaseBuildingDimensions()->OrientationUnknown();
   const float normal = orientationUnknown ? -1.0f : Hybrid_AngleNormalToFace(windFace);
-  return SearchWorstCase(*root->DynamicPressure(), windArea, orientationUnknown, normal);
+  return SearchWorstCase(*CaseDynamicPressure(), windArea, orientationUnknown, normal);
 }
 
 float clsExternalCoefficients::Hybrid_WorstCase_DynamicPressure_q(BuildingAreas buildingArea, Faces face,

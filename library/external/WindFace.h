@@ -8,7 +8,8 @@
 
 namespace orve {
 
-/// A `Faces` value by the zone's description, compared exactly; 0 for a description that the face doesn't have.
+/// A `Faces` value by the zone's description, compared exactly; 0 for a description that the face doesn't
+/// have.
 std::int16_t WindFaceOfWallZone(std::string_view description, Faces face);
 std::int16_t WindFaceOfParapetZone(std::string_view description, Faces face);
 

@@ -16,7 +16,8 @@ constexpr float HalfWindow = 45;
 // One walk over sectors: Best is the greatest product of the whole sectors looked at so far.
 class Walk {
  public:
-  Walk(clsDynamicPressure& dynamicPressure, WorstCase& record) : m_pressure(dynamicPressure), m_record(record) {}
+  Walk(clsDynamicPressure& dynamicPressure, WorstCase& record)
+      : m_pressure(dynamicPressure), m_record(record) {}
 
   void TakeSector(std::int16_t sector, float angle) {
     const float q = Pressure(sector);
@@ -73,8 +74,9 @@ void WalkWindow(Walk& walk, float normal) {
   const float to = normal + HalfWindow;
   const bool onSector = common.FractionalMod(from, SectorWidth) == 0;
   const std::int16_t start =
-      onSector ? ToInt16(from)
-               : ToInt16(from + (SectorWidth - common.FractionalMod(common.AngleToPositive(from), SectorWidth)));
+      onSector
+          ? ToInt16(from)
+          : ToInt16(from + (SectorWidth - common.FractionalMod(common.AngleToPositive(from), SectorWidth)));
   const double beyondEnd = SectorWidth - common.FractionalMod(common.AngleToPositive(to), SectorWidth);
   const std::int16_t end = ToInt16(to + beyondEnd - SectorWidth);
   for (int angle = start; angle <= end; angle += static_cast<int>(SectorWidth))

@@ -1,8 +1,10 @@
-// The lengths of a zone by the zone rules of BS 6399-2 (Figures 12 to 23), worked out in 64 bits and narrowed once.
+// The lengths of a zone by the zone rules of BS 6399-2 (Figures 12 to 23), worked out in 64 bits and narrowed
+// once.
 #include <algorithm>
 #include <optional>
 
 #include "common/Narrow.h"
+#include "core/CaseObjects.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "external/BreCpX.h"
@@ -40,7 +42,9 @@ struct Zone {
   bool FromFace4() const { return At(270); }
 };
 
-Row Same(double length) { return Lengths{length, length}; }
+Row Same(double length) {
+  return Lengths{length, length};
+}
 
 Row WallZone(const Zone& zone, const BreCpX& component) {
   const double b = component.Scale_b();
@@ -149,14 +153,22 @@ Row CurvedRoofZone(const Zone& zone, const BreCpX& component, float roofHeight) 
 Row ZoneRow(std::int32_t typeIndex, const Zone& zone, const BreCpX& component,
             const clsBuildingDimensions& building) {
   switch (typeIndex) {
-    case 0: return WallZone(zone, component);
-    case 2: return FlatRoofZone(zone, component);
-    case 3: return MonoPitchedRoofZone(zone, component);
-    case 4: return DuoPitchedRoofZone(zone, component);
-    case 5: return HippedRoofZone(zone, component);
-    case 8: return ParapetZone(zone, component);
-    case 11: return CurvedRoofZone(zone, component, building.Roof_Height());
-    default: return {};
+    case 0:
+      return WallZone(zone, component);
+    case 2:
+      return FlatRoofZone(zone, component);
+    case 3:
+      return MonoPitchedRoofZone(zone, component);
+    case 4:
+      return DuoPitchedRoofZone(zone, component);
+    case 5:
+      return HippedRoofZone(zone, component);
+    case 8:
+      return ParapetZone(zone, component);
+    case 11:
+      return CurvedRoofZone(zone, component, building.Roof_Height());
+    default:
+      return {};
   }
 }
 
@@ -164,10 +176,10 @@ Row ZoneRow(std::int32_t typeIndex, const Zone& zone, const BreCpX& component,
 
 bool clsExternalCoefficients::CalculateZoneExtent(ZoneExtent& extent, ResultsScreens resultsScreen,
                                                   bool warning) const {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   const BreCpX& component = RequireBreCp();
-  const bool takeOff = building->ConsiderCantilever() &&
-                       resultsScreen == ResultsScreens::Overall_Applied_Loads && !warning;
+  const bool takeOff =
+      building->ConsiderCantilever() && resultsScreen == ResultsScreens::Overall_Applied_Loads && !warning;
   const double c12 = takeOff ? building->CantileverFace1Or2_Length() : 0.0;
   const double c34 = takeOff ? building->CantileverFace3Or4_Length() : 0.0;
   const std::int32_t typeIndex = component.TypeIndex();

@@ -1,9 +1,10 @@
-// From the building, an area and a face to the settings of the coefficient component, and from the zones that it
-// offers to the zone table.
+// From the building, an area and a face to the settings of the coefficient component, and from the zones that
+// it offers to the zone table.
 #include <array>
 #include <utility>
 
 #include "common/Narrow.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "external/BreCpX.h"
 #include "external/clsExternalCoefficients.h"
@@ -45,18 +46,24 @@ void SendShape(BreCpX& component, const Shape& shape) {
 
 Shape RoofShape(const clsBuildingDimensions& building) {
   switch (building.RoofType()) {
-    case RoofTypes::Flat_roof_with_sharp_eaves: return {.TypeIndex = FlatRoofType};
+    case RoofTypes::Flat_roof_with_sharp_eaves:
+      return {.TypeIndex = FlatRoofType};
     case RoofTypes::Flat_roof_with_parapets:
       return {.TypeIndex = FlatRoofType, .Parapet_H = building.Roof_ParapetHeight()};
     case RoofTypes::Flat_roof_with_curved_eaves:
       return {.TypeIndex = FlatRoofType, .Eaves_Radius = building.Roof_EavesRadius()};
     case RoofTypes::Flat_roof_with_mansard_eaves:
       return {.TypeIndex = FlatRoofType, .Eaves_Pitch = building.Roof_MansardSlope()};
-    case RoofTypes::Mono_pitched_roof: return {.TypeIndex = MonoPitchedType, .Roof_Pitch = building.Roof_Pitch()};
-    case RoofTypes::Duo_pitched_roof: return {.TypeIndex = DuoPitchedType, .Roof_Pitch = building.Roof_Pitch()};
-    case RoofTypes::Hipped_roof: return {.TypeIndex = HippedType, .Roof_Pitch = building.Roof_Pitch()};
-    case RoofTypes::Curved_roof: return {.TypeIndex = CurvedType, .Barrel_r = building.Roof_RiseHeight()};
-    default: return {};
+    case RoofTypes::Mono_pitched_roof:
+      return {.TypeIndex = MonoPitchedType, .Roof_Pitch = building.Roof_Pitch()};
+    case RoofTypes::Duo_pitched_roof:
+      return {.TypeIndex = DuoPitchedType, .Roof_Pitch = building.Roof_Pitch()};
+    case RoofTypes::Hipped_roof:
+      return {.TypeIndex = HippedType, .Roof_Pitch = building.Roof_Pitch()};
+    case RoofTypes::Curved_roof:
+      return {.TypeIndex = CurvedType, .Barrel_r = building.Roof_RiseHeight()};
+    default:
+      return {};
   }
 }
 
@@ -67,9 +74,15 @@ float RoofDimH(const clsBuildingDimensions& building, const Shape& shape) {
   return building.Roof_Height();
 }
 
-int FaceNumber(Faces face) { return static_cast<std::int32_t>(face); }
-bool IsFace(Faces face) { return FaceNumber(face) >= 0 && FaceNumber(face) <= 3; }
-bool IsFace1Or3(Faces face) { return face == Faces::Face_1 || face == Faces::Face_3; }
+int FaceNumber(Faces face) {
+  return static_cast<std::int32_t>(face);
+}
+bool IsFace(Faces face) {
+  return FaceNumber(face) >= 0 && FaceNumber(face) <= 3;
+}
+bool IsFace1Or3(Faces face) {
+  return face == Faces::Face_1 || face == Faces::Face_3;
+}
 
 struct PlanLengths {
   float Dim_L;
@@ -83,7 +96,8 @@ PlanLengths WallPlanLengths(const clsBuildingDimensions& building, Faces face) {
   if (building.ConsiderCantilever()) {
     const float cantilevers =
         ToSingle(double(building.CantileverFace3Or4_Length()) + building.CantileverFace1Or2_Length());
-    (building.Wall_GableFaces() == GableFaces::Faces_1_and_3 ? widthReduction : lengthReduction) = cantilevers;
+    (building.Wall_GableFaces() == GableFaces::Faces_1_and_3 ? widthReduction : lengthReduction) =
+        cantilevers;
   }
   const float length = ToSingle(double(building.Face1And3_Length()) - lengthReduction);
   const float width = ToSingle(double(building.Face2And4_Width()) - widthReduction);
@@ -97,10 +111,14 @@ void SendPlanLengths(BreCpX& component, const PlanLengths& plan) {
 
 float WallGap(const clsBuildingDimensions& building, Faces face) {
   switch (face) {
-    case Faces::Face_1: return building.Wall_GapFace1();
-    case Faces::Face_2: return building.Wall_GapFace2();
-    case Faces::Face_3: return building.Wall_GapFace3();
-    default: return building.Wall_GapFace4();
+    case Faces::Face_1:
+      return building.Wall_GapFace1();
+    case Faces::Face_2:
+      return building.Wall_GapFace2();
+    case Faces::Face_3:
+      return building.Wall_GapFace3();
+    default:
+      return building.Wall_GapFace4();
   }
 }
 
@@ -110,22 +128,37 @@ void clsExternalCoefficients::BuildZoneTable(BuildingAreas buildingArea, Faces f
                                              ResultsScreens resultsScreen) {
   const BuildingAreas area = Resolve(buildingArea);
   const Faces onFace = Resolve(face);
-  const bool warning = RequireCurrentCase().OverallAppliedLoads()->CantileverZoneWidthWarning(area, onFace);
+  const bool warning = CaseOverallAppliedLoads()->CantileverZoneWidthWarning(area, onFace);
   const ResultsScreens screen =
       resultsScreen == ResultsScreens(-1) ? ResultsScreens::External_Coefficient : resultsScreen;
   SendMethod();
   switch (area) {
-    case BuildingAreas::baRoof: SetUpRoof(); break;
-    case BuildingAreas::baWalls: SetUpWalls(); break;
-    case BuildingAreas::baParapet: SetUpParapet(onFace); break;
-    default: break;
+    case BuildingAreas::baRoof:
+      SetUpRoof();
+      break;
+    case BuildingAreas::baWalls:
+      SetUpWalls();
+      break;
+    case BuildingAreas::baParapet:
+      SetUpParapet(onFace);
+      break;
+    default:
+      break;
   }
   m_ZoneTable.clear();
   switch (RequireBreCp().TypeIndex()) {
-    case WallsType: ScanWalls(onFace, warning); break;
-    case MonoPitchedType: ScanMonoPitchedRoof(onFace, screen, warning); break;
-    case ParapetType: ScanParapet(warning); break;
-    default: ScanOtherRoof(onFace, screen, warning); break;
+    case WallsType:
+      ScanWalls(onFace, warning);
+      break;
+    case MonoPitchedType:
+      ScanMonoPitchedRoof(onFace, screen, warning);
+      break;
+    case ParapetType:
+      ScanParapet(warning);
+      break;
+    default:
+      ScanOtherRoof(onFace, screen, warning);
+      break;
   }
 }
 
@@ -133,14 +166,14 @@ void clsExternalCoefficients::BuildZoneTable(BuildingAreas buildingArea, Faces f
 void clsExternalCoefficients::SendMethod() {
   clsCurrentCase& root = RequireCurrentCase();
   if (!root.BreCp_Dirty()) return;
-  const Methods method = root.DynamicPressure()->Method();
+  const Methods method = CaseDynamicPressure()->Method();
   if (method == Methods::Directional) RequireBreCp().Method(1);
   if (method == Methods::Hybrid) RequireBreCp().Method(0);
   root.BreCp_Dirty(false);
 }
 
 void clsExternalCoefficients::SetUpRoof() {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   BreCpX& component = RequireBreCp();
   const Shape shape = RoofShape(*building);
   SendShape(component, shape);
@@ -157,7 +190,7 @@ void clsExternalCoefficients::SetUpWalls() {
 }
 
 void clsExternalCoefficients::SetUpParapet(Faces face) {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   BreCpX& component = RequireBreCp();
   SendShape(component, {.TypeIndex = ParapetType});
   component.Dim_H(building->Parapet_Height());
@@ -174,7 +207,7 @@ void clsExternalCoefficients::SetUpParapet(Faces face) {
 }
 
 void clsExternalCoefficients::ScanWalls(Faces face, bool warning) {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   BreCpX& component = RequireBreCp();
   const PlanLengths plan = WallPlanLengths(*building, face);
   if (IsFace(face)) SendPlanLengths(component, plan);
@@ -229,7 +262,8 @@ void clsExternalCoefficients::ScanOtherRoof(Faces face, ResultsScreens resultsSc
   AddComponentZones("", resultsScreen, warning);
 }
 
-void clsExternalCoefficients::AddComponentZones(const char* suffix, ResultsScreens resultsScreen, bool warning) {
+void clsExternalCoefficients::AddComponentZones(const char* suffix, ResultsScreens resultsScreen,
+                                                bool warning) {
   BreCpX& component = RequireBreCp();
   for (std::int16_t zone = 0; zone <= LastComponentZone; ++zone) {
     component.ZoneIndex(zone);

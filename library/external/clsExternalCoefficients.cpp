@@ -3,22 +3,31 @@
 
 #include "common/Narrow.h"
 #include "common/NumberText.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "external/WindFace.h"
 #include "geometry/clsBuildingDimensions.h"
 
 namespace orve {
 
-clsExternalCoefficients::clsExternalCoefficients() { ApplyDefaults(); }
+clsExternalCoefficients::clsExternalCoefficients() {
+  ApplyDefaults();
+}
 
 void clsExternalCoefficients::ApplyDefaults() {
   ManualResults(false);
   Bay(Bays::End_Bay);
 }
 
-void clsExternalCoefficients::BuildingArea(BuildingAreas value) { m_BuildingArea = ToInt16(value); }
-void clsExternalCoefficients::Face(Faces value) { m_Face = ToInt16(value); }
-void clsExternalCoefficients::ManualResults(bool value) { StoreAndMarkDirty(m_ManualResults, value); }
+void clsExternalCoefficients::BuildingArea(BuildingAreas value) {
+  m_BuildingArea = ToInt16(value);
+}
+void clsExternalCoefficients::Face(Faces value) {
+  m_Face = ToInt16(value);
+}
+void clsExternalCoefficients::ManualResults(bool value) {
+  StoreAndMarkDirty(m_ManualResults, value);
+}
 
 void clsExternalCoefficients::Bay(Bays value) {
   if (StoreAndMarkDirty(m_Bay, ToInt16(value))) RequireCurrentCase().BreCp_Dirty(true);
@@ -28,7 +37,9 @@ BuildingAreas clsExternalCoefficients::Resolve(BuildingAreas buildingArea) const
   return buildingArea == BuildingAreas(-1) ? BuildingArea() : buildingArea;
 }
 
-Faces clsExternalCoefficients::Resolve(Faces face) const { return face == Faces(-1) ? Face() : face; }
+Faces clsExternalCoefficients::Resolve(Faces face) const {
+  return face == Faces(-1) ? Face() : face;
+}
 
 std::int16_t clsExternalCoefficients::Resolve(std::int16_t zoneIndex) const {
   return zoneIndex == -1 ? ZoneIndex() : zoneIndex;
@@ -40,20 +51,23 @@ clsExternalCoefficients::ZoneAddress clsExternalCoefficients::Resolve(BuildingAr
 }
 
 bool clsExternalCoefficients::GableFace(Faces face) const {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   const GableFaces gables = building->Wall_GableFaces();
   switch (Resolve(face)) {
-    case Faces::Face_1: return gables == GableFaces::Faces_1_and_3;
+    case Faces::Face_1:
+      return gables == GableFaces::Faces_1_and_3;
     case Faces::Face_3:
       return gables == GableFaces::Faces_1_and_3 || building->RoofType() == RoofTypes::Mono_pitched_roof;
     case Faces::Face_2:
-    case Faces::Face_4: return gables == GableFaces::Faces_2_and_4;
-    default: return false;
+    case Faces::Face_4:
+      return gables == GableFaces::Faces_2_and_4;
+    default:
+      return false;
   }
 }
 
 float clsExternalCoefficients::Hybrid_AngleNormalToFace(Faces face) const {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   if (building->OrientationUnknown()) return -1;
   constexpr int offsets[] = {270, 0, 90, 180};
   const auto index = static_cast<std::int32_t>(Resolve(face));
@@ -61,7 +75,9 @@ float clsExternalCoefficients::Hybrid_AngleNormalToFace(Faces face) const {
   return static_cast<float>(ToInt16(building->Orientation() + offsets[index]) % 360);
 }
 
-std::int16_t clsExternalCoefficients::ZoneIndexFrom(BuildingAreas, Faces) { return 0; }
+std::int16_t clsExternalCoefficients::ZoneIndexFrom(BuildingAreas, Faces) {
+  return 0;
+}
 
 std::int16_t clsExternalCoefficients::ZoneIndexTo(BuildingAreas buildingArea, Faces face,
                                                   ResultsScreens resultsScreen) {
@@ -79,10 +95,14 @@ std::int16_t clsExternalCoefficients::Hybrid_WindFromFace(BuildingAreas building
                                                           std::int16_t zoneIndex) {
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   switch (area) {
-    case BuildingAreas::baRoof: return ToInt16(onFace);
-    case BuildingAreas::baWalls: return WindFaceOfWallZone(Hybrid_ZoneDescription(area, onFace, zone), onFace);
-    case BuildingAreas::baParapet: return WindFaceOfParapetZone(Hybrid_ZoneDescription(area, onFace, zone), onFace);
-    default: return 0;
+    case BuildingAreas::baRoof:
+      return ToInt16(onFace);
+    case BuildingAreas::baWalls:
+      return WindFaceOfWallZone(Hybrid_ZoneDescription(area, onFace, zone), onFace);
+    case BuildingAreas::baParapet:
+      return WindFaceOfParapetZone(Hybrid_ZoneDescription(area, onFace, zone), onFace);
+    default:
+      return 0;
   }
 }
 
@@ -112,7 +132,8 @@ float clsExternalCoefficients::Hybrid_ZoneDimensionY(BuildingAreas buildingArea,
 }
 
 std::string clsExternalCoefficients::Hybrid_ZoneDimensions(BuildingAreas buildingArea, Faces face,
-                                                           std::int16_t zoneIndex, ResultsScreens resultsScreen) {
+                                                           std::int16_t zoneIndex,
+                                                           ResultsScreens resultsScreen) {
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   BuildZoneTable(area, onFace, resultsScreen);
   const ZoneExtent& extent = ZoneAt(zone).Extent;
@@ -123,8 +144,10 @@ std::string clsExternalCoefficients::Hybrid_ZoneDimensions(BuildingAreas buildin
     case BuildingAreas::baRoof:
       return extent.DimensionY == 0 ? first : first + ", " + FormatFixed(extent.DimensionY, places) + " m";
     case BuildingAreas::baWalls:
-    case BuildingAreas::baParapet: return first;
-    default: return {};
+    case BuildingAreas::baParapet:
+      return first;
+    default:
+      return {};
   }
 }
 

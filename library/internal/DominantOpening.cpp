@@ -1,6 +1,7 @@
-// Internal coefficients of a building with a dominant opening (Table 17): a fixed part of the external coefficients
-// of the wall zone in which the opening lies.
+// Internal coefficients of a building with a dominant opening (Table 17): a fixed part of the external
+// coefficients of the wall zone in which the opening lies.
 #include "common/Narrow.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "external/ZoneSearch.h"
 #include "external/clsExternalCoefficients.h"
@@ -14,7 +15,9 @@ namespace {
 constexpr double Ratio2Factor = 0.75;
 constexpr double Ratio3Factor = 0.9;
 
-std::shared_ptr<clsExternalCoefficients> External() { return RequireCurrentCase().ExternalCoefficients(); }
+std::shared_ptr<clsExternalCoefficients> External() {
+  return CaseExternalCoefficients();
+}
 
 }  // namespace
 
@@ -26,7 +29,8 @@ std::int16_t clsInternalCoefficients::DominantOpening_ZoneIndexTo(Faces face) co
   return External()->ZoneIndexTo(BuildingAreas::baWalls, Resolve(face), ResultsScreens(-1));
 }
 
-std::string clsInternalCoefficients::DominantOpening_ZoneDescription(Faces face, std::int16_t zoneIndex) const {
+std::string clsInternalCoefficients::DominantOpening_ZoneDescription(Faces face,
+                                                                     std::int16_t zoneIndex) const {
   const std::int16_t zone = zoneIndex == -1 ? DominantOpening_ZoneIndex() : zoneIndex;
   return External()->Hybrid_ZoneDescription(BuildingAreas::baWalls, Resolve(face), zone);
 }

@@ -3,6 +3,7 @@
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 #include "common/clsCommon.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
@@ -15,10 +16,10 @@ namespace orve {
 namespace {
 
 WorstCase Search(Faces face, WindAreas windArea) {
-  const auto root = RequireCurrentCase().shared_from_this();
-  const bool orientationUnknown = root->BuildingDimensions()->OrientationUnknown();
-  const float normal = orientationUnknown ? -1.0f : root->ExternalCoefficients()->Hybrid_AngleNormalToFace(face);
-  return SearchWorstCase(*root->DynamicPressure(), windArea, orientationUnknown, normal);
+  const bool orientationUnknown = CaseBuildingDimensions()->OrientationUnknown();
+  const float normal =
+      orientationUnknown ? -1.0f : CaseExternalCoefficients()->Hybrid_AngleNormalToFace(face);
+  return SearchWorstCase(*CaseDynamicPressure(), windArea, orientationUnknown, normal);
 }
 
 }  // namespace

@@ -11,12 +11,15 @@ namespace orve {
 
 namespace {
 
-constexpr double EnclosedVolumeFactor = 10;   // 2.6.1: a = 10 times the cube root of the volume.
-constexpr double OpeningVolumeFactor = 0.2;   // 2.6.2: a = 0.2 times the cube root, or the diagonal of the opening.
+constexpr double EnclosedVolumeFactor = 10;  // 2.6.1: a = 10 times the cube root of the volume.
+constexpr double OpeningVolumeFactor =
+    0.2;  // 2.6.2: a = 0.2 times the cube root, or the diagonal of the opening.
 
 }  // namespace
 
-clsInternalCoefficients::clsInternalCoefficients() { ApplyDefaults(); }
+clsInternalCoefficients::clsInternalCoefficients() {
+  ApplyDefaults();
+}
 
 void clsInternalCoefficients::ApplyDefaults() {
   StructureType(StructureTypes::Enclosed_building);
@@ -35,17 +38,25 @@ void clsInternalCoefficients::ApplyDefaults() {
   }
 }
 
-void clsInternalCoefficients::Face(Faces value) { m_Face = ToInt16(value); }
+void clsInternalCoefficients::Face(Faces value) {
+  m_Face = ToInt16(value);
+}
 void clsInternalCoefficients::StructureType(StructureTypes value) {
   StoreAndMarkDirty(m_StructureType, ToInt16(value));
 }
-void clsInternalCoefficients::DiagonalDimension_a(float value) { StoreAndMarkDirty(m_DiagonalDimension_a, value); }
-void clsInternalCoefficients::InternalVolume(float value) { StoreAndMarkDirty(m_InternalVolume, value); }
+void clsInternalCoefficients::DiagonalDimension_a(float value) {
+  StoreAndMarkDirty(m_DiagonalDimension_a, value);
+}
+void clsInternalCoefficients::InternalVolume(float value) {
+  StoreAndMarkDirty(m_InternalVolume, value);
+}
 void clsInternalCoefficients::WindPressureType(WindPressureTypes value) {
   StoreAndMarkDirty(m_WindPressureType, ToInt16(value));
 }
 
-Faces clsInternalCoefficients::Resolve(Faces face) const { return face == Faces(-1) ? Face() : face; }
+Faces clsInternalCoefficients::Resolve(Faces face) const {
+  return face == Faces(-1) ? Face() : face;
+}
 
 int clsInternalCoefficients::FaceIndex(Faces face) const {
   const auto index = static_cast<std::int32_t>(Resolve(face));
@@ -79,12 +90,14 @@ float clsInternalCoefficients::Calculated_DiagonalDimension_a() const {
     return ToSingle(factor * basBS6399_2::Common->CubeRoot(InternalVolume()));
   };
   switch (StructureType()) {
-    case StructureTypes::Enclosed_building: return timesCubeRoot(EnclosedVolumeFactor);
+    case StructureTypes::Enclosed_building:
+      return timesCubeRoot(EnclosedVolumeFactor);
     case StructureTypes::Dominant_opening: {
       const float byVolume = timesCubeRoot(OpeningVolumeFactor);
       return DiagonalDimension_a() > byVolume ? DiagonalDimension_a() : byVolume;
     }
-    default: return 0;
+    default:
+      return 0;
   }
 }
 
@@ -108,7 +121,8 @@ bool clsInternalCoefficients::RuleStands(const EnclosedRule& rule) const {
   for (int face = 0; face < FaceCount; ++face)
     suctions[face] = InternalCoefficientFactor_Cpi_Suction(static_cast<Faces>(face));
   for (int face = 0; face < FaceCount; ++face)
-    if (!SameAtThreeDecimals(pressures[face], rule.pressure) || !SameAtThreeDecimals(suctions[face], rule.suction))
+    if (!SameAtThreeDecimals(pressures[face], rule.pressure) ||
+        !SameAtThreeDecimals(suctions[face], rule.suction))
       return false;
   return this->*rule.flag;
 }
@@ -128,7 +142,8 @@ void clsInternalCoefficients::SetRule(const EnclosedRule& rule, bool present, bo
   if (value) WriteRule(rule);
 }
 
-// The three rules that share their values exclude each other: whichever value comes in, this one is then chosen.
+// The three rules that share their values exclude each other: whichever value comes in, this one is then
+// chosen.
 void clsInternalCoefficients::SetExclusiveRule(const EnclosedRule& rule, bool present, bool value) {
   const auto self = weak_from_this().lock();
   if (value == present) return;
@@ -140,7 +155,9 @@ void clsInternalCoefficients::SetExclusiveRule(const EnclosedRule& rule, bool pr
   if (value) WriteRule(rule);
 }
 
-bool clsInternalCoefficients::EnclosedBuilding_GeneralCase() const { return RuleStands(GeneralCase); }
+bool clsInternalCoefficients::EnclosedBuilding_GeneralCase() const {
+  return RuleStands(GeneralCase);
+}
 void clsInternalCoefficients::EnclosedBuilding_GeneralCase(bool value) {
   SetRule(GeneralCase, EnclosedBuilding_GeneralCase(), value);
 }

@@ -8,6 +8,7 @@
 #include "common/LoadText.h"
 #include "common/Narrow.h"
 #include "common/NumberText.h"
+#include "core/CaseObjects.h"
 #include "core/Required.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
@@ -24,11 +25,11 @@ namespace {
 using namespace cantilever;
 
 std::shared_ptr<clsBuildingDimensions> Building() {
-  return Required(RequireCurrentCase().BuildingDimensions(), "BuildingDimensions");
+  return Required(CaseBuildingDimensions(), "BuildingDimensions");
 }
 
 std::shared_ptr<clsExternalCoefficients> Coefficients() {
-  return Required(RequireCurrentCase().ExternalCoefficients(), "ExternalCoefficients");
+  return Required(CaseExternalCoefficients(), "ExternalCoefficients");
 }
 
 bool HasFace(WindFaces faces, Faces face) {
@@ -162,8 +163,7 @@ std::vector<std::string> WallsBeside(const SideWallRow& wall, std::string_view l
 
 // The pressures of the wall zones under a cantilever zone; one empty text if none is known.
 std::vector<std::string> WallList(Faces face, std::string_view label) {
-  const ExternalPressure pressures =
-      Required(RequireCurrentCase().CantileverWindloads(), "CantileverWindloads")->ExternalPressures();
+  const ExternalPressure pressures = CaseCantileverWindloads()->ExternalPressures();
   for (const SideWallRow& wall : SideWalls)
     if (wall.Face == face && label.ends_with(wall.LabelEnding)) return WallsBeside(wall, label, pressures);
   for (const FacingWallRow& wall : FacingWalls)

@@ -6,6 +6,7 @@
 #include "common/LoadText.h"
 #include "common/Narrow.h"
 #include "common/clsCommon.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
@@ -61,11 +62,10 @@ float WorstDifference(const Terms& external, const Terms& internal, Beats beats)
 
 template <class Beats>
 float RoofOrWallLoad(BuildingAreas area, Faces face, std::int16_t zone, Beats beats) {
-  const auto root = RequireCurrentCase().shared_from_this();
-  const auto external = root->ExternalCoefficients();
+  const auto external = CaseExternalCoefficients();
   const Terms outside = ExternalTerms(*external, area, face, zone);
   const auto windFace = static_cast<Faces>(external->Hybrid_WindFromFace(area, face, zone));
-  const Terms inside = InternalTerms(*root->InternalCoefficients(), windFace);
+  const Terms inside = InternalTerms(*CaseInternalCoefficients(), windFace);
   return WorstDifference(outside, inside, beats);
 }
 
@@ -73,18 +73,26 @@ bool IsRoofOrWalls(BuildingAreas area) {
   return area == BuildingAreas::baRoof || area == BuildingAreas::baWalls;
 }
 
-std::shared_ptr<clsExternalCoefficients> External() { return RequireCurrentCase().ExternalCoefficients(); }
+std::shared_ptr<clsExternalCoefficients> External() {
+  return CaseExternalCoefficients();
+}
 
 }  // namespace
 
-void clsOverallAppliedLoads::BuildingArea(BuildingAreas value) { m_BuildingArea = ToInt16(value); }
-void clsOverallAppliedLoads::Face(Faces value) { m_Face = ToInt16(value); }
+void clsOverallAppliedLoads::BuildingArea(BuildingAreas value) {
+  m_BuildingArea = ToInt16(value);
+}
+void clsOverallAppliedLoads::Face(Faces value) {
+  m_Face = ToInt16(value);
+}
 
 BuildingAreas clsOverallAppliedLoads::Resolve(BuildingAreas buildingArea) const {
   return buildingArea == BuildingAreas(-1) ? BuildingArea() : buildingArea;
 }
 
-Faces clsOverallAppliedLoads::Resolve(Faces face) const { return face == Faces(-1) ? Face() : face; }
+Faces clsOverallAppliedLoads::Resolve(Faces face) const {
+  return face == Faces(-1) ? Face() : face;
+}
 
 std::int16_t clsOverallAppliedLoads::Resolve(std::int16_t zoneIndex) const {
   return zoneIndex == -1 ? ZoneIndex() : zoneIndex;
@@ -121,7 +129,7 @@ std::string clsOverallAppliedLoads::Hybrid_InternalAppliedLoads(BuildingAreas bu
   const std::int16_t zone = Resolve(zoneIndex);
   if (!IsRoofOrWalls(area)) return {};
   const auto windFace = static_cast<Faces>(External()->Hybrid_WindFromFace(area, onFace, zone));
-  return RequireCurrentCase().InternalCoefficients()->Hybrid_InternalAppliedLoads(windFace);
+  return CaseInternalCoefficients()->Hybrid_InternalAppliedLoads(windFace);
 }
 
 float clsOverallAppliedLoads::Hybrid_OverallAppliedLoad_Pressure(BuildingAreas buildingArea, Faces face,
@@ -156,15 +164,18 @@ std::string clsOverallAppliedLoads::Hybrid_OverallAppliedLoads(BuildingAreas bui
 // Unequal cantilevers across the wind would leave no single width for a roof zone.
 bool clsOverallAppliedLoads::CantileverZoneWidthWarning(BuildingAreas buildingArea, Faces face) const {
   if (Resolve(buildingArea) != BuildingAreas::baRoof) return false;
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   if (!building->ConsiderCantilever()) return false;
   if (!Differs(building->CantileverFace1Or2_Length(), building->CantileverFace3Or4_Length())) return false;
   switch (Resolve(face)) {
     case Faces::Face_1:
-    case Faces::Face_3: return building->Wall_GableFaces() == GableFaces::Faces_2_and_4;
+    case Faces::Face_3:
+      return building->Wall_GableFaces() == GableFaces::Faces_2_and_4;
     case Faces::Face_2:
-    case Faces::Face_4: return building->Wall_GableFaces() == GableFaces::Faces_1_and_3;
-    default: return false;
+    case Faces::Face_4:
+      return building->Wall_GableFaces() == GableFaces::Faces_1_and_3;
+    default:
+      return false;
   }
 }
 

@@ -2,6 +2,7 @@
 #include "sitewind/clsDynamicPressure.h"
 
 #include "common/Narrow.h"
+#include "core/CaseObjects.h"
 #include "core/Marks.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "internal/clsInternalCoefficients.h"
@@ -64,11 +65,11 @@ WindSectors clsDynamicPressure::Resolve(WindSectors windSector) const {
 
 WindAreas clsDynamicPressure::FollowWindPressureType(WindAreas windArea) const {
   if (windArea != WindAreas::waInternal) return windArea;
-  return WindAreaOf(RequireCurrentCase().InternalCoefficients()->WindPressureType());
+  return WindAreaOf(CaseInternalCoefficients()->WindPressureType());
 }
 
 float clsDynamicPressure::HeightOf(WindAreas windArea) const {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   switch (windArea) {
     case WindAreas::waRoof:
       return building->Roof_Height();
@@ -85,7 +86,7 @@ float clsDynamicPressure::HeightOf(WindAreas windArea) const {
 }
 
 float clsDynamicPressure::DiagonalOf(WindAreas windArea) const {
-  const auto building = RequireCurrentCase().BuildingDimensions();
+  const auto building = CaseBuildingDimensions();
   switch (windArea) {
     case WindAreas::waRoof:
       return building->Roof_Diagonal();
@@ -235,10 +236,9 @@ float clsDynamicPressure::SizeEffectFactor_Ca(WindAreas windArea, WindSectors wi
   if (ManualResults()) return ManualResult(m_ManualSizeEffectFactor_Ca, given, sector);
   const WindAreas area = FollowWindPressureType(given);
   const float height = HeightOf(area);
-  SetHeightAndDiagonal(height,
-                       given == WindAreas::waInternal
-                           ? RequireCurrentCase().InternalCoefficients()->Calculated_DiagonalDimension_a()
-                           : DiagonalOf(area));
+  SetHeightAndDiagonal(height, given == WindAreas::waInternal
+                                   ? CaseInternalCoefficients()->Calculated_DiagonalDimension_a()
+                                   : DiagonalOf(area));
   BVe2X& component = RequireBreVe();
   if (!(component.A() > 0)) return 0;
   RefreshWindComponent();
