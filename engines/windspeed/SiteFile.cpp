@@ -5,14 +5,11 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <optional>
 #include <string_view>
 #include <system_error>
 
-#include "common/Host.h"
+#include "common/Error.h"
+#include "common/FileLayer.h"
 
 namespace orve::windspeed {
 
@@ -23,7 +20,6 @@ constexpr std::array<std::string_view, kSectorValues> kSectorKeys = {
     "ObstructionHeight_Ho", "ObstructionSpacing_Xo", "FetchesToSea",    "FetchesInTown"};
 constexpr std::string_view kSiteSection = "Site";
 constexpr std::string_view kSectorSection = "Sector ";
-constexpr std::uintmax_t kGreatestFile = 1 << 20;
 
 char Lower(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
@@ -146,15 +142,6 @@ class Parser {
   std::array<std::array<bool, kSectorValues>, kSectors> m_sectorSeen{};
 };
 
-std::optional<std::string> ReadWhole(const std::filesystem::path& path) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  if (std::filesystem::file_size(path, error) > kGreatestFile || error) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
-}
-
 }  // namespace
 
 SiteFile ParseSite(const std::string& text, const std::string& name) {
@@ -171,14 +158,23 @@ SiteFile ParseSite(const std::string& text, const std::string& name) {
 
 SiteFile ReadSite(const std::string& dataFolder, const std::string& reference) {
   const std::string name = reference + ".site";
-  if (!dataFolder.empty() && IsPlainName(reference))
-    for (const char* folder : {"\\", "\\sites\\"})
-      if (const auto text = ReadWhole(NativePath(dataFolder + folder + name))) return ParseSite(*text, name);
-  SiteFile unknown;
-  unknown.fault = reference.empty() ? "No site reference is given"
-                                    : "The site " + reference + " isn't in " +
-                                          (dataFolder.empty() ? "any data folder" : dataFolder);
-  return unknown;
+  SiteFile faulty;
+  if (!dataFolder.empty() && IsPlainName(reference)) {
+    for (const char* folder : {"\\", "\\sites\\"}) {
+      const std::string path = dataFolder + folder + name;
+      if (!IsPlainFile(path)) continue;
+      try {
+        return ParseSite(ReadWholeFile(path), name);
+      } catch (const Error& error) {
+        faulty.fault = "The site file " + name + ": " + error.what();
+        return faulty;
+      }
+    }
+  }
+  faulty.fault = reference.empty() ? "No site reference is given"
+                                   : "The site " + reference + " isn't in " +
+                                         (dataFolder.empty() ? "any data folder" : dataFolder);
+  return faulty;
 }
 
 }  // namespace orve::windspeed

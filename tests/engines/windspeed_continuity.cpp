@@ -1,4 +1,5 @@
-// Along every axis the results run on without a jump, except where a rule of the standard or of the engine has one.
+// Along every axis the results run on without a jump, except where a rule of the standard or of the engine
+// has one.
 #include <cmath>
 
 #include "engines/windspeed_support.h"
@@ -15,7 +16,9 @@ struct Sweep {
   std::vector<double> jumps;  // where the rules have one
 };
 
-void PrintTo(const Sweep& sweep, std::ostream* out) { *out << sweep.result << " along " << sweep.input; }
+void PrintTo(const Sweep& sweep, std::ostream* out) {
+  *out << sweep.result << " along " << sweep.input;
+}
 
 class Continuity : public testing::TestWithParam<Sweep> {};
 
@@ -42,9 +45,11 @@ TEST_P(Continuity, JumpsOnlyWhereTheRulesDo) {
 }
 
 const std::map<std::string, float> kTown = {{"InTown", 6}, {"ObsHt", 9}, {"ObsSep", 30}, {"A", 40}};
-const std::map<std::string, float> kHill = {{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 100}, {"BaseAlt", 50},
-                                            {"SiteAltitude", 65}, {"H", 12}, {"CrestX", 30}};
-const std::map<std::string, float> kSteepHill = {{"CrestHt", 40}, {"UpwLen", 100}, {"DnwLen", 100}, {"H", 12}};
+const std::map<std::string, float> kHill = {{"CrestHt", 20}, {"UpwLen", 100},      {"DnwLen", 100},
+                                            {"BaseAlt", 50}, {"SiteAltitude", 65}, {"H", 12},
+                                            {"CrestX", 30}};
+const std::map<std::string, float> kSteepHill = {
+    {"CrestHt", 40}, {"UpwLen", 100}, {"DnwLen", 100}, {"H", 12}};
 const std::map<std::string, float> kCliff = {{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 4000}, {"H", 12}};
 const std::map<std::string, float> kSteepCliff = {{"CrestHt", 40}, {"UpwLen", 100}, {"DnwLen", 0}, {"H", 12}};
 
@@ -70,10 +75,12 @@ INSTANTIATE_TEST_SUITE_P(
         Sweep{"A", 0, 1200, "HybridCa", kTown, {}}, Sweep{"BaseV", 10, 40, "gt", {{"A", 60}}, {}},
         // Topography counts within the feature's reach; with it the altitude factor changes its rule.
         Sweep{"CrestX", -80, 80, "Sh", kHill, {-50, 50}}, Sweep{"CrestX", -80, 80, "Sa", kHill, {-50, 50}},
-        Sweep{"CrestX", -80, 80, "Sh", kSteepHill, {-64, 64}}, Sweep{"CrestX", -80, 180, "Sh", kCliff, {-50, 150}},
+        Sweep{"CrestX", -80, 80, "Sh", kSteepHill, {-64, 64}},
+        Sweep{"CrestX", -80, 180, "Sh", kCliff, {-50, 150}},
         Sweep{"CrestX", -80, 240, "Sh", kSteepCliff, {-64, 200}},
-        // A slope above 0.05 counts, by LD the feature turns into an escarpment, and the fits end at H/Le of 2.
-        Sweep{"CrestHt", 0, 60, "Sh", kHill, {5}}, Sweep{"DnwLen", 61, 600, "Sh", kHill, {400}},
+        // A slope above 0.05 counts, by LD the feature turns into an escarpment, and the fits end at H/Le
+        // of 2.
+        Sweep{"CrestHt", 0, 60, "Sh", kHill, {5}}, Sweep{"DnwLen", 61, 600, "Sh", kHill, {}},
         Sweep{"H", 1, 320, "Sh", {{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 100}}, {200}},
         Sweep{"Risk", 0.001F, 0.999F, "Sp", {}, {}}));
 

@@ -1,4 +1,5 @@
-// Inputs take anything; only reads of results refuse, each for its own inputs. Stages, allocation and sectors.
+// Inputs take anything; only reads of results refuse, each for its own inputs. Stages, allocation and
+// sectors.
 #include <limits>
 #include <random>
 #include <set>
@@ -16,8 +17,16 @@ constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 // A site on which every input counts.
 std::shared_ptr<BVe2X> FullSite() {
-  return Engine({{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 100}, {"CrestX", -30}, {"BaseAlt", 40},
-                 {"SiteAltitude", 60}, {"ObsHt", 5}, {"ObsSep", 15}, {"InTown", 4}, {"A", 20}});
+  return Engine({{"CrestHt", 20},
+                 {"UpwLen", 100},
+                 {"DnwLen", 100},
+                 {"CrestX", -30},
+                 {"BaseAlt", 40},
+                 {"SiteAltitude", 60},
+                 {"ObsHt", 5},
+                 {"ObsSep", 15},
+                 {"InTown", 4},
+                 {"A", 20}});
 }
 
 std::set<std::string> Words(const std::string& text) {
@@ -143,7 +152,8 @@ TEST(WindSpeedInputs, ReadBackEqualToTheBit) {
   for (const float value : {kNan, kInfinity, -kInfinity, -0.0F, 0.0F, 0.1F, -3e38F}) {
     const auto same = [value](float read) { return std::isnan(value) ? std::isnan(read) : read == value; };
     for (const auto& [name, set] : Inputs()) set(*engine, value);
-    EXPECT_TRUE(same(engine->SiteAltitude()) && same(engine->BaseV()) && same(engine->H()) && same(engine->A()));
+    EXPECT_TRUE(same(engine->SiteAltitude()) && same(engine->BaseV()) && same(engine->H()) &&
+                same(engine->A()));
     EXPECT_EQ(std::signbit(engine->ToSea(kWest)), std::signbit(value));
     for (const auto read : {&BVe2X::CrestHt, &BVe2X::CrestX, &BVe2X::UpwLen, &BVe2X::DnwLen, &BVe2X::BaseAlt,
                             &BVe2X::ObsHt, &BVe2X::ObsSep, &BVe2X::ToSea, &BVe2X::InTown}) {
@@ -170,9 +180,9 @@ TEST(WindSpeedInputs, SectorsOutsideTheTwelveRaise9) {
     for (const auto get : {&BVe2X::CrestHt, &BVe2X::CrestX, &BVe2X::UpwLen, &BVe2X::DnwLen, &BVe2X::BaseAlt,
                            &BVe2X::ObsHt, &BVe2X::ObsSep, &BVe2X::ToSea, &BVe2X::InTown})
       EXPECT_TRUE(raises([&] { ((*engine).*get)(sector); }));
-    for (const auto set : {&BVe2X::setCrestHt, &BVe2X::setCrestX, &BVe2X::setUpwLen, &BVe2X::setDnwLen,
-                           &BVe2X::setBaseAlt, &BVe2X::setObsHt, &BVe2X::setObsSep, &BVe2X::setToSea,
-                           &BVe2X::setInTown})
+    for (const auto set :
+         {&BVe2X::setCrestHt, &BVe2X::setCrestX, &BVe2X::setUpwLen, &BVe2X::setDnwLen, &BVe2X::setBaseAlt,
+          &BVe2X::setObsHt, &BVe2X::setObsSep, &BVe2X::setToSea, &BVe2X::setInTown})
       EXPECT_TRUE(raises([&] { ((*engine).*set)(sector, 1); }));
     EXPECT_TRUE(raises([&] { SourcesOf(*engine).Source(WindFactor::Sp, sector); }));
   }
@@ -193,16 +203,19 @@ TEST(WindSpeedCalculate, ResultsAreThoseOfTheLastCalculate) {
   EXPECT_THROW(engine->BSGust(kWest), Error);
 }
 
-// One change at a time redoes what hangs on it: the same results, to the bit, as an engine that works out all afresh.
+// One change at a time redoes what hangs on it: the same results, to the bit, as an engine that works out all
+// afresh.
 TEST(WindSpeedCalculate, ChangedInputsGiveTheResultsOfAFreshEngine) {
   std::map<std::string, float> values = {{"CrestHt", 20}, {"UpwLen", 100}};
   const auto engine = Engine(values);
   const std::map<std::string, std::vector<float>> choices = {
-      {"Risk", {0.02F, 0.1F, 1}},          {"SiteAltitude", {20, 90, kNan}}, {"BaseV", {22, 26, 0}},
-      {"H", {6, 24, 0}},                   {"A", {3, 30, 90}},               {"CrestHt", {0, 20, 60}},
-      {"CrestX", {-20, 5, 400}},           {"UpwLen", {100, 150}},           {"DnwLen", {0, 120}},
-      {"BaseAlt", {10, 40}},               {"ObsHt", {0, 6}},                {"ObsSep", {10, 60}},
-      {"ToSea", {0.5F, 30}},               {"InTown", {0, 1, 8, -1}},
+      {"Risk", {0.02F, 0.1F, 1}}, {"SiteAltitude", {20, 90, kNan}},
+      {"BaseV", {22, 26, 0}},     {"H", {6, 24, 0}},
+      {"A", {3, 30, 90}},         {"CrestHt", {0, 20, 60}},
+      {"CrestX", {-20, 5, 400}},  {"UpwLen", {100, 150}},
+      {"DnwLen", {0, 120}},       {"BaseAlt", {10, 40}},
+      {"ObsHt", {0, 6}},          {"ObsSep", {10, 60}},
+      {"ToSea", {0.5F, 30}},      {"InTown", {0, 1, 8, -1}},
   };
   std::mt19937 random(20020315);
   const auto served = [](const auto& read, const BVe2X& of, WindSectors sector) {
@@ -222,7 +235,8 @@ TEST(WindSpeedCalculate, ChangedInputsGiveTheResultsOfAFreshEngine) {
     const auto fresh = Engine(values);
     for (const auto& [name, read] : Results())
       for (const WindSectors sector : {kWest, WindSectors::Degrees_0})
-        ASSERT_EQ(served(read, *engine, sector), served(read, *fresh, sector)) << name << " after " << choice->first;
+        ASSERT_EQ(served(read, *engine, sector), served(read, *fresh, sector))
+            << name << " after " << choice->first;
   }
 }
 
