@@ -44,27 +44,31 @@ def displacement_height(s):
     return min(max(1.2 * s["Ho"] - 0.2 * s["Xo"], 0.0), 0.8 * s["Ho"])
 
 
-def location_factor(s, height, le, hill):
-    """Figures 9 and 10: s at height above ground."""
-    r = height / le
+def location_factor(s, height, le):
+    """Figures 9 and 10: s at height above ground; of a hill with the longer downwind slope the smaller of the two."""
+    r, x = height / le, s["X"]
     if r > 2:
         return 0.0
-    crest = polynomial(fig.CREST_A, r)
-    if s["X"] <= 0:
-        value = crest * exp(polynomial(fig.UPWIND_B, r) * s["X"] / s["LU"]) if s["X"] >= -1.5 * s["LU"] else 0
-    elif hill:
-        value = crest * exp(polynomial(fig.HILL_B, r) * s["X"] / s["LD"]) if s["X"] <= 2 * s["LD"] else 0
+    if x <= 0:
+        kinds = [slope_factor(r, fig.UPWIND_B, x / s["LU"], 1.5)]
     else:
-        value = cliff_factor(s["X"] / le, max(r, 0.1), crest)
-    return max(value, 0.0)
+        kinds = [slope_factor(r, fig.HILL_B, x / s["LD"], 2)] if is_hill(s) else []
+        if not kinds or s["LD"] > s["LU"]:
+            kinds.append(cliff_factor(x / le, r))
+    return max(min(kinds), 0.0)
 
 
-def cliff_factor(x, r, crest):
+def slope_factor(r, power, x, limit):
+    return polynomial(fig.CREST_A, r) * exp(polynomial(power, r) * x) if abs(x) <= limit else 0.0
+
+
+def cliff_factor(x, r):
+    """Linear from the crest up to 0.1, then the fit, which holds from r = 0.1 on."""
     if x > 3.5:
         return 0.0
-    k, lr = log10(max(x, 0.1)), log10(r)
+    k, lr = log10(max(x, 0.1)), log10(max(r, 0.1))
     a, b, c = (polynomial(p, lr) for p in (fig.CLIFF_A, fig.CLIFF_B, fig.CLIFF_C))
-    value = a * k * k + b * k + c
+    crest, value = polynomial(fig.CREST_A, r), a * k * k + b * k + c
     return value if x >= 0.1 else crest + (value - crest) * x / 0.1
 
 
@@ -91,7 +95,7 @@ def topography(s, height):
     if not (s["Z"] > 0 and s["LU"] > 0) or s["Z"] / s["LU"] <= 0.05 or abs(s["X"]) > reach(s, s["X"] < 0):
         return False, 0.0
     le = effective_slope(s)[0]
-    return True, 2.0 * min(s["Z"] / s["LU"], 0.3) * location_factor(s, height, le, is_hill(s))
+    return True, 2.0 * min(s["Z"] / s["LU"], 0.3) * location_factor(s, height, le)
 
 
 def size_effect_factor(s, he, a):
@@ -126,7 +130,7 @@ def terrain(r, s):
 
 def refuses(site, s):
     """Inputs without which no dynamic pressure has a meaning."""
-    numbers = [site[k] for k in ("H", "A", "Vb", "altitude", "Q")] + [s["sea"], s["town"]]
+    numbers = [site[k] for k in ("H", "Vb", "altitude", "Q")] + [s["sea"], s["town"]]
     factors = (seasonal_factor(site["season"], site["month"]), probability_factor(site["Q"]))
     return not all(map(isfinite, numbers)) or site["H"] <= 0 or site["Vb"] <= 0 or REFUSED in factors
 
@@ -141,8 +145,10 @@ def sector(site, number, s):
     terrain(r, s)
     ss, sp = seasonal_factor(site["season"], site["month"]), probability_factor(site["Q"])
     vs = site["Vb"] * r["Sa"] * r["Sd"] * ss * sp
+    r["q"] = 0.613 * (vs * building_factor(r, 3.44)) ** 2
+    if not isfinite(site["A"]):
+        return {**r, "gt": REFUSED, "Sb": REFUSED, "Ca": REFUSED}
     r["gt"] = gust_peak_factor(site["A"], vs * r["Sc"] * r["Tc"] * (1 + r["Sh"]))
     r["Sb"] = building_factor(r, r["gt"])
-    r["q"] = 0.613 * (vs * building_factor(r, 3.44)) ** 2
     r["Ca"] = size_effect_factor(s, r["He"], site["A"])
     return r
