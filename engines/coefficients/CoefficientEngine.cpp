@@ -9,6 +9,7 @@
 #include "coefficients/Rules.h"
 #include "coefficients/SourceText.h"
 #include "coefficients/Zones.h"
+#include "common/HostCalls.h"
 #include "external/BreCpX.h"
 
 namespace orve {

@@ -38,11 +38,18 @@ Reading ReadRows(const Request& request, const Table& table, std::size_t block, 
   return ReadBlock(request, table, table.blocks[block], request.zone, parameter, request.inputs.suction);
 }
 
+/// The ratio that the rows are headed by. Unless a table file settles which it is, the lesser of h/H and h/b:
+/// the safe side, since a parapet only lowers the suction.
+double ParapetRatio(const Request& request, const Block& block) {
+  const double h = request.inputs.parapetHeight;
+  if (block.parameter == "h/H") return h / request.plan.height;
+  if (block.parameter == "h/b") return h / request.plan.scale;
+  return std::min(h / request.plan.height, h / request.plan.scale);
+}
+
 Reading ReadParapets(const Request& request, const Table& table) {
   RequirePlan(request, table);
-  const double h = request.inputs.parapetHeight;
-  // The lesser ratio is on the safe side: a parapet only lowers the suction.
-  const double ratio = std::min(h / request.plan.height, h / request.plan.scale);
+  const double ratio = ParapetRatio(request, table.blocks[kParapetBlock]);
   if (Below(ratio, table.blocks[kParapetBlock].First()))
     return ReadSharp(request, table, "parapet lower than the first row: sharp eaves");
   return ReadRows(request, table, kParapetBlock, ratio);

@@ -1,4 +1,5 @@
 // Mono-pitched, duo-pitched and hipped roofs: Tables 9, 10 and 11, clauses 2.5.2 and 2.5.3.
+#include <algorithm>
 #include <cmath>
 
 #include "coefficients/Refusal.h"

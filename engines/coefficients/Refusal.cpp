@@ -1,20 +1,12 @@
 #include "coefficients/Refusal.h"
 
-#include <charconv>
-
 #include "coefficients/Zones.h"
 #include "common/Error.h"
+#include "common/NumberText.h"
 
 namespace orve::coefficients {
 
 namespace {
-
-template <class Number>
-std::string ShortestText(Number value) {
-  char text[64];
-  const auto end = std::to_chars(text, text + sizeof text, value).ptr;
-  return {text, end};
-}
 
 std::string WithUnit(double value, std::string_view unit) {
   std::string text = InputText(value);
@@ -50,18 +42,19 @@ void Refuse(const Request& request, const TableTitle& table, std::string_view qu
 
 void RefuseZone(const Inputs& inputs, Shape shape, WindAngle angle) {
   if (shape == Shape::None)
-    Raise("TypeIndex is " + ShortestText(inputs.typeIndex) +
+    Raise("TypeIndex is " + std::to_string(inputs.typeIndex) +
           ", which names no shape; the shapes are 0, 2, 3, 4, 5, 8 and 11");
   const std::size_t count = ZonesOf(shape, angle).size();
   const std::string theta = ShortestText(inputs.theta);
   if (count == 0)
-    Raise("Theta is " + theta + ", at which TypeIndex " + ShortestText(inputs.typeIndex) +
+    Raise("Theta is " + theta + ", at which TypeIndex " + std::to_string(inputs.typeIndex) +
           " has no zones; the angles are " +
           (shape == Shape::Parapet       ? "0 and 180"
            : shape == Shape::MonoPitched ? "0, 89.9, 90, 180, 270 and 270.1"
                                          : "0, 90, 180 and 270"));
-  Raise("ZoneIndex is " + ShortestText(inputs.zoneIndex) + "; TypeIndex " + ShortestText(inputs.typeIndex) +
-        " at Theta " + theta + " has zones 0 to " + ShortestText(count - 1));
+  Raise("ZoneIndex is " + std::to_string(inputs.zoneIndex) + "; TypeIndex " +
+        std::to_string(inputs.typeIndex) + " at Theta " + theta + " has zones 0 to " +
+        std::to_string(count - 1));
 }
 
 void RefuseBlank(const Request& request, const TableTitle& table, const Block& block,

@@ -48,25 +48,33 @@ void AppendNote(std::string& note, std::string_view part) {
 /// Name of the table that a figure stands in for.
 std::string_view ReplacedTable(Shape shape) {
   switch (shape) {
+    case Shape::Walls:
+      return "BS 6399-2 Table 5";
+    case Shape::Flat:
+      return "BS 6399-2 Table 8";
     case Shape::MonoPitched:
       return "BS 6399-2 Table 9";
     case Shape::DuoPitched:
       return "BS 6399-2 Table 10";
     case Shape::Hipped:
       return "BS 6399-2 Table 11";
-    case Shape::Flat:
-      return "BS 6399-2 Table 8 (parapets)";
+    case Shape::Parapet:
+      return "BS 6399-2 Table 21";
     case Shape::Curved:
-      return "curved roofs, which have no table in BS 6399-2";
-    default:
-      return {};
+      return "a table of curved roofs, which BS 6399-2 hasn't";
+    case Shape::None:
+      break;
   }
+  return {};
 }
 
 void AppendAxis(SourceRecord& record, const Reading& reading) {
   const Block& block = *reading.block;
   record.corners.push_back(reading.figure.lowerFigure);
   if (block.rowCount < 2) return;
+  if (!block.rows[0].name.empty())
+    AppendNote(record.note,
+               "0 " + std::string(block.rows[0].name) + ", 1 " + std::string(block.rows[1].name));
   SourceAxis axis;
   axis.name = block.parameter;
   if (axis.name == "pitch") axis.unit = "degrees";
@@ -91,7 +99,7 @@ SourceRecord SourceOf(const Request& request, const Reading& reading) {
   record.item += reading.figure.suction ? ", suction" : ", pressure";
   record.status = StatusOf(reading.figure.mark);
   // A curved roof has no table of its own: whatever it is read from stands in.
-  if (request.shape == Shape::Curved) record.status = SourceStatus::StandingIn;
+  if (origin.standsIn || request.shape == Shape::Curved) record.status = SourceStatus::StandingIn;
   if (reading.block)
     AppendAxis(record, reading);
   else

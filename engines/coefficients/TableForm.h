@@ -59,6 +59,7 @@ inline constexpr std::size_t kMaxBlocks = 4;
 struct Row {
   double parameter = 0;
   std::array<Cell, kMaxColumns> cells{};
+  std::string_view name{};  ///< Of a row that has a name for a parameter, e.g. "isolated".
 };
 
 /// Where the figures of a block come from.
@@ -110,14 +111,16 @@ struct TableTitle {
 struct Table : TableTitle {
   std::array<Block, kMaxBlocks> blocks{};
   std::size_t blockCount = 0;
+  bool net = false;  ///< Net coefficients across a wall: pressure figures only.
 };
 
 constexpr Table MakeTable(std::string_view name, std::string_view title, std::string_view clause,
-                          std::initializer_list<Block> blocks) {
+                          std::initializer_list<Block> blocks, bool net = false) {
   Table table;
   table.name = name;
   table.title = title;
   table.clause = clause;
+  table.net = net;
   for (const Block& block : blocks) table.blocks[table.blockCount++] = block;
   return table;
 }

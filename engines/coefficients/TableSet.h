@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <string>
 
 #include "coefficients/TableForm.h"
@@ -20,11 +21,21 @@ const Table& BuiltInTable(TableNumber number);
 /// The table of a name as "Table 10"; null if there is none.
 const Table* FindBuiltInTable(std::string_view name);
 
+struct OfficeTable;
+
 /// The tables of one engine.
 class TableSet {
  public:
   /// The built-in tables.
   TableSet();
+  ~TableSet();
+  TableSet(const TableSet&) = delete;
+  TableSet& operator=(const TableSet&) = delete;
+
+  /// Takes in the table files of a folder ("\\" as separator), one file named after each table
+  /// ("Table10.txt"): a good one replaces its table, a faulty one bars it. A table without a file stays as it
+  /// is built in.
+  void ReadFolder(const std::string& folder);
 
   /// The table in force. Error 5 with file, line and reason if its table file is faulty.
   const Table& Require(TableNumber number) const {
@@ -35,7 +46,8 @@ class TableSet {
 
  private:
   struct Entry {
-    const Table* table = nullptr;
+    const Table* table = nullptr;  ///< Null if its table file is faulty.
+    std::unique_ptr<const OfficeTable> office;
     std::string fault;
   };
 

@@ -23,7 +23,7 @@ inline constexpr Table kTable21 = MakeTable("Table 21", "free-standing walls and
     {0.8, {   P(+1.2, kT21k),  P(+1.2, kT21k),  P(+1.2, kT21k),  P(+1.2, kT21k)}},
     {1.0, {   P(+2.1, kT21k),  P(+1.8, kT21k),  P(+1.4, kT21k),  P(+1.2, kT21k)}},
   }),
-});
+}, true);
 // clang-format on
 
 }  // namespace orve::coefficients

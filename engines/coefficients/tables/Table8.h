@@ -13,9 +13,9 @@ inline constexpr Mark kT8k = Mark::Consistent, kT8r = Mark::RecalledMedium, kT8s
 
 // clang-format off
 inline constexpr Table kTable8 = MakeTable("Table 8", "flat roofs", "2.5.1", {
-  MakeBlock("sharp eaves", "row", kBs6399,
+  MakeBlock("sharp eaves", "eaves", kBs6399,
     {           "A",              "B",              "C",              "D"}, {
-    {0,    {   S(-2.0,  kT8k),   S(-1.4,  kT8k),   S(-0.7, kT8k),    SP(-0.2, +0.2, kT8k)}},
+    {0,    {   S(-2.0,  kT8k),   S(-1.4,  kT8k),   S(-0.7, kT8k),    SP(-0.2, +0.2, kT8k)}, "sharp"},
   }),
   // Rows: height of the parapet, the lesser of h/H and h/b.
   MakeBlock("parapets", "ratio", kRecalledParapets,
