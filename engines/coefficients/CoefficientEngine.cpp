@@ -32,7 +32,10 @@ float LengthToSingle(double value) {
 
 class CoefficientEngine final : public BreCpX, public CoefficientSources {
  public:
-  CoefficientEngine() { SelectZones(); }
+  CoefficientEngine() {
+    SelectZones();
+    m_tables.ReadFolder(HostSystemDirectory() + "\\wzfdata");
+  }
 
   std::string TypeName() const override { return "BreCp2_2X"; }
 

@@ -10,10 +10,6 @@ namespace {
 /// No coefficient of the standard comes near it: a figure beyond has lost its point.
 constexpr double kLargestFigure = 5;
 
-std::string Quoted(std::string_view word) {
-  return "\"" + std::string(word) + "\"";
-}
-
 std::string CheckFigure(std::string_view word, double figure) {
   if (IsBlank(figure)) return Quoted(word) + " is not a number";
   if (std::fabs(figure) > kLargestFigure) return Quoted(word) + " is beyond 5, larger than any coefficient";
@@ -44,6 +40,11 @@ std::string ReadSingle(std::string_view word, bool net, Cell& cell) {
 }
 
 }  // namespace
+
+std::string Quoted(std::string_view word) {
+  std::string text(1, '"');
+  return text.append(word).append(1, '"');
+}
 
 double WordToNumber(std::string_view word) {
   if (word.size() > 1 && word[0] == '+' && word[1] != '-') word.remove_prefix(1);

@@ -8,6 +8,9 @@
 
 namespace orve::coefficients {
 
+/// A word as error texts show it, in quotation marks.
+std::string Quoted(std::string_view word);
+
 /// A plain decimal number, with or without a sign, that fills the word; NaN if it isn't one.
 double WordToNumber(std::string_view word);
 

@@ -35,10 +35,6 @@ std::string_view Trim(std::string_view text) {
   return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
-std::string Quoted(std::string_view word) {
-  return "\"" + std::string(word) + "\"";
-}
-
 /// A day as "2026-11-24".
 bool IsDay(std::string_view text) {
   if (text.size() != 10 || text[4] != '-' || text[7] != '-') return false;

@@ -31,7 +31,7 @@ TEST_F(CoefficientSource, GivesCornersFractionAndStatus) {
 
   // The weaker of the two corners rules: A isolated is recalled, A funnelling is consistent.
   Look(Walls, 90, 0);
-  engine->Dim_gap(7);
+  engine->Dim_gap(5);
   EXPECT_EQ(Source().status, SourceStatus::Recalled);
   Look(Walls, 90, 1);
   EXPECT_EQ(Source().status, SourceStatus::Consistent);
