@@ -65,7 +65,7 @@ struct ProfileFile::Place {
 
 ProfileFile ProfileFile::Load(const std::string& path) {
   try {
-    return ProfileFile(ToUtf8(ReadWholeFile(path)));
+    return ProfileFile(FileText(ReadWholeFile(path)));
   } catch (const Error& error) {
     ProfileFile empty{std::string()};
     const int number = error.Number();

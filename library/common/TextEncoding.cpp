@@ -51,8 +51,6 @@ std::size_t SequenceLength(std::string_view bytes) {
 }  // namespace
 
 std::string ToUtf8(std::string_view bytes) {
-  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-  if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 8);
   while (!bytes.empty()) {
@@ -66,6 +64,12 @@ std::string ToUtf8(std::string_view bytes) {
     bytes.remove_prefix(length > 0 ? length : 1);
   }
   return text;
+}
+
+std::string FileText(std::string_view bytes) {
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
+  return ToUtf8(bytes);
 }
 
 }  // namespace orve

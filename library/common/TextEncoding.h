@@ -6,8 +6,9 @@
 
 namespace orve {
 
-/// The text as UTF-8: what is valid UTF-8 stands (without a byte order mark), any other byte is taken as
-/// Windows-1252.
+/// The text as UTF-8: what is valid UTF-8 stands, any other byte is taken as Windows-1252.
 std::string ToUtf8(std::string_view bytes);
+/// The same for a whole file, which may begin with a byte order mark.
+std::string FileText(std::string_view bytes);
 
 }  // namespace orve

@@ -83,7 +83,7 @@ void clsSaveFile::Data(const std::string& section, const std::string& key, const
 }
 
 void clsSaveFile::ReadData(const std::string& fileName) {
-  const std::string text = ToUtf8(ReadWholeFile(fileName));
+  const std::string text = FileText(ReadWholeFile(fileName));
   m_DataBuffer = text.find('\r') == None ? WithCarriageReturns(text) : text;
 }
 
