@@ -10,6 +10,7 @@
 
 namespace orve {
 
+class CaseSection;
 class clsBuildingDimensions;
 class clsCantileverWindLoads;
 class clsDynamicPressure;
@@ -150,6 +151,7 @@ class clsCurrentCase : public std::enable_shared_from_this<clsCurrentCase> {
   void ApplyParentContext();
   void SetCreated(double value);
   void SetModified(double value);
+  void WalkCaseSection(CaseSection& section);
   void ReadCaseFile();
   void WriteCaseFile();
   void m_iclsSaveFile_NewFile();

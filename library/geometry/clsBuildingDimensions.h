@@ -131,7 +131,7 @@ class clsBuildingDimensions {
   friend class clsCurrentCase;
   void ApplyDefaults();
   void ReadFromSaveFile();
-  void WriteToSaveFile() const;
+  void WriteToSaveFile();
 
   bool m_OrientationUnknown = false;
   std::int16_t m_Orientation = 0;

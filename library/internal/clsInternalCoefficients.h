@@ -110,7 +110,7 @@ class clsInternalCoefficients : public std::enable_shared_from_this<clsInternalC
 
   void ApplyDefaults();
   void ReadFromSaveFile();
-  void WriteToSaveFile() const;
+  void WriteToSaveFile();
 
   Faces Resolve(Faces face) const;
   int FaceIndex(Faces face) const;

@@ -159,7 +159,7 @@ class clsOverallAppliedLoads {
 
   void ApplyDefaults();
   void ReadFromSaveFile();
-  void WriteToSaveFile() const;
+  void WriteToSaveFile();
 
   BuildingAreas Resolve(BuildingAreas buildingArea) const;
   Faces Resolve(Faces face) const;
