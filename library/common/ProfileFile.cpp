@@ -120,9 +120,12 @@ void ProfileFile::Value(std::string_view section, std::string_view key, std::str
   const std::string_view stored = value.substr(0, value.find_first_of(LineEnd));
   const Place place = Find(section, key);
   if (place.keyFound) {
+    if (m_text.compare(place.valueBegin, place.valueEnd - place.valueBegin, stored) == 0) return;
+    m_changed = true;
     m_text.replace(place.valueBegin, place.valueEnd - place.valueBegin, stored);
     return;
   }
+  m_changed = true;
   std::string added;
   std::size_t at = place.insertAt;
   if (!place.sectionFound) {
@@ -136,7 +139,7 @@ void ProfileFile::Value(std::string_view section, std::string_view key, std::str
 }
 
 void ProfileFile::Store(const std::string& path) const {
-  if (m_unreadable) return;
+  if (m_unreadable || !m_changed) return;
   try {
     WriteWholeFile(path, m_text, Durability::Atomic);
   } catch (const Error&) {

@@ -1,4 +1,7 @@
 // The document's text: its keys, and its way from and to the file.
+#include <algorithm>
+#include <iterator>
+
 #include "common/DateText.h"
 #include "common/Error.h"
 #include "common/FileLayer.h"
@@ -22,6 +25,19 @@ std::string SectionHead(const std::string& section) {
 // The line feed of the line before belongs to the search, so that a key is found at a line's begin only.
 std::string KeyHead(const std::string& key) {
   return "\n" + key + "=";
+}
+
+/// The first place of a key's head whose line feed stands before `end`; `None` if there is none. The keys of
+/// a section begin alike, so they are compared from their ends.
+std::size_t FindKeyHead(const std::string& text, const std::string& keyHead, std::size_t begin,
+                        std::size_t end) {
+  const std::size_t last = text.size() < keyHead.size() ? 0 : text.size() - keyHead.size() + 1;
+  const std::size_t stop = std::min(end, last);
+  for (std::size_t at = text.find('\n', begin); at < stop; at = text.find('\n', at + 1)) {
+    const auto lineEnd = text.begin() + static_cast<std::ptrdiff_t>(at + keyHead.size());
+    if (std::equal(keyHead.rbegin(), keyHead.rend(), std::make_reverse_iterator(lineEnd))) return at;
+  }
+  return None;
 }
 
 /// Where the text ends that stands before `end`, once line ends and blanks are stepped over: the position
@@ -51,8 +67,8 @@ std::string clsSaveFile::Data(const std::string& section, const std::string& key
   const std::size_t begin = headAt + head.size();
   const std::size_t end = std::min(m_DataBuffer.find('[', begin), m_DataBuffer.size());
   const std::string keyHead = KeyHead(key);
-  const std::size_t keyAt = m_DataBuffer.find(keyHead, begin);
-  if (keyAt == None || keyAt > end) return defaultText;
+  const std::size_t keyAt = FindKeyHead(m_DataBuffer, keyHead, begin, end);
+  if (keyAt == None) return defaultText;
   const std::size_t valueAt = keyAt + keyHead.size();
   return m_DataBuffer.substr(valueAt, m_DataBuffer.find('\r', valueAt) - valueAt);
 }
@@ -71,8 +87,8 @@ void clsSaveFile::Data(const std::string& section, const std::string& key, const
   const std::size_t sectionEnd =
       StepBack(m_DataBuffer, std::min(m_DataBuffer.find('[', begin), m_DataBuffer.size()));
   const std::string keyHead = KeyHead(key);
-  const std::size_t keyAt = m_DataBuffer.find(keyHead, begin);
-  if (keyAt != None && keyAt < sectionEnd) {
+  const std::size_t keyAt = FindKeyHead(m_DataBuffer, keyHead, begin, sectionEnd);
+  if (keyAt != None) {
     const std::size_t valueAt = keyAt + keyHead.size();
     const std::size_t lineEnd = std::min(m_DataBuffer.find('\r', valueAt), m_DataBuffer.size());
     m_DataBuffer.replace(valueAt, StepBack(m_DataBuffer, lineEnd) - valueAt, value);
