@@ -9,9 +9,6 @@
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 #include "core/CaseObjects.h"
-#include "core/Required.h"
-#include "core/basBS6399_2.h"
-#include "core/clsCurrentCase.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "loads/CantileverLayout.h"
@@ -23,14 +20,6 @@ namespace orve {
 namespace {
 
 using namespace cantilever;
-
-std::shared_ptr<clsBuildingDimensions> Building() {
-  return Required(CaseBuildingDimensions(), "BuildingDimensions");
-}
-
-std::shared_ptr<clsExternalCoefficients> Coefficients() {
-  return Required(CaseExternalCoefficients(), "ExternalCoefficients");
-}
 
 bool HasFace(WindFaces faces, Faces face) {
   switch (face) {
@@ -75,8 +64,8 @@ class LayoutLengths {
   }
 
  private:
-  std::shared_ptr<clsBuildingDimensions> m_building = Building();
-  std::shared_ptr<clsExternalCoefficients> m_coefficients = Coefficients();
+  std::shared_ptr<clsBuildingDimensions> m_building = CaseBuildingDimensions();
+  std::shared_ptr<clsExternalCoefficients> m_coefficients = CaseExternalCoefficients();
   Faces m_face;
   float m_width;
   float m_Y0;
@@ -149,7 +138,7 @@ struct SideWall {
 
 std::vector<std::string> WallsBeside(const SideWallRow& wall, std::string_view label,
                                      const ExternalPressure& pressures) {
-  const auto building = Building();
+  const auto building = CaseBuildingDimensions();
   const RoofTypes roofType = building->RoofType();
   const auto row = std::find_if(std::begin(Overlay), std::end(Overlay), [&](const OverlayRow& each) {
     return each.Roof == roofType && each.Letters.find(label.front()) != std::string_view::npos;
@@ -178,7 +167,7 @@ bool clsOverallAppliedLoads::CantileverValues(BuildingAreas buildingArea, Faces 
   const BuildingAreas area = Resolve(buildingArea);
   const Faces resolvedFace = Resolve(face);
   m_CantileverZones.assign(1, {});
-  const float width = Building()->Face2And4_Width();
+  const float width = CaseBuildingDimensions()->Face2And4_Width();
   if (area != BuildingAreas::baRoof) return false;
   ListCantileverZones(resolvedFace, width, results);
   m_CantileverZones.pop_back();
@@ -189,7 +178,7 @@ bool clsOverallAppliedLoads::CantileverValues(BuildingAreas buildingArea, Faces 
 }
 
 void clsOverallAppliedLoads::ListCantileverZones(Faces face, float width, bool results) {
-  const auto layout = Layout(Building()->RoofType());
+  const auto layout = Layout(CaseBuildingDimensions()->RoofType());
   if (layout.empty()) return;
   const LayoutLengths lengths(face, width);
   for (const LayoutRow& row : layout) {
@@ -200,7 +189,7 @@ void clsOverallAppliedLoads::ListCantileverZones(Faces face, float width, bool r
     const float second = lengths.Of(row.Second);
     LastCantileverRow().Cantilever_ZoneDimensions = FormatZoneDimensions(first, second);
     const std::string external =
-        Coefficients()->Hybrid_ExternalAppliedLoads(BuildingAreas::baRoof, face, row.Zone);
+        CaseExternalCoefficients()->Hybrid_ExternalAppliedLoads(BuildingAreas::baRoof, face, row.Zone);
     LastCantileverRow().Cantilever_ExternalAppliedLoads = external;
     const CantileverLoads loads = CombineCantileverLoads(external, WallList(face, label));
     LastCantileverRow().Cantilever_InternalAppliedLoads = loads.Internal;
@@ -217,7 +206,8 @@ std::string clsOverallAppliedLoads::SelectedCantileverLoadValues(BuildingAreas b
   if (type == SelectedLoadTypes::Stepped_Wind_Load) return SteppedLoadText(area, resolvedFace);
   const ZoneSearch search = FindZoneOf(ZoneDescriptionFromSelectedLoadType(type), area, resolvedFace);
   const std::int16_t zone = search.Found ? ToInt16(search.Index) : std::int16_t{0};
-  const std::string external = Coefficients()->Hybrid_ExternalAppliedLoads(area, resolvedFace, zone);
+  const std::string external =
+      CaseExternalCoefficients()->Hybrid_ExternalAppliedLoads(area, resolvedFace, zone);
   const std::string noWall[] = {{}};
   return CombineCantileverLoads(external, noWall).Overall;
 }

@@ -5,8 +5,7 @@
 
 #include "common/LoadText.h"
 #include "common/Narrow.h"
-#include "core/basBS6399_2.h"
-#include "core/clsCurrentCase.h"
+#include "core/Marks.h"
 #include "loads/clsOverallAppliedLoads.h"
 
 namespace orve {
@@ -48,9 +47,7 @@ std::string LoadWithUnit(float load) {
 }  // namespace
 
 void clsOverallAppliedLoads::SelectedFace(Faces value) {
-  if (m_SelectedFace == value) return;
-  m_SelectedFace = value;
-  RequireCurrentCase().IsDirty(true);
+  StoreAndMarkDirty(m_SelectedFace, value);
 }
 
 SelectedLoadTypes clsOverallAppliedLoads::SelectedLoadType(BuildingAreas buildingArea, Faces face) const {
@@ -61,11 +58,7 @@ SelectedLoadTypes clsOverallAppliedLoads::SelectedLoadType(BuildingAreas buildin
 void clsOverallAppliedLoads::SelectedLoadType(BuildingAreas buildingArea, Faces face,
                                               SelectedLoadTypes value) {
   const AreaFace entry = Entry(buildingArea, face);
-  std::int16_t& stored = m_SelectedLoadType[entry.Area][entry.Face];
-  const std::int16_t narrowed = ToInt16(value);
-  if (stored == narrowed) return;
-  stored = narrowed;
-  RequireCurrentCase().IsDirty(true);
+  StoreAndMarkDirty(m_SelectedLoadType[entry.Area][entry.Face], ToInt16(value));
 }
 
 std::string clsOverallAppliedLoads::SelectedLoadValues(BuildingAreas buildingArea, Faces face) const {

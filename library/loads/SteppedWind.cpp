@@ -1,11 +1,9 @@
 // The stepped wind loads: three steps for each area and face, and the uniform loads that stand for them.
 #include <cstddef>
 
-#include "common/Differs.h"
 #include "common/Error.h"
 #include "common/Narrow.h"
-#include "core/basBS6399_2.h"
-#include "core/clsCurrentCase.h"
+#include "core/Marks.h"
 #include "loads/BayLoads.h"
 #include "loads/clsOverallAppliedLoads.h"
 
@@ -28,10 +26,7 @@ float clsOverallAppliedLoads::SteppedValue(const AreaFaceTable<float>& table, Bu
 void clsOverallAppliedLoads::SteppedValue(AreaFaceTable<float>& table, BuildingAreas buildingArea, Faces face,
                                           float value) {
   const AreaFace entry = Entry(buildingArea, face);
-  float& stored = table[entry.Area][entry.Face];
-  if (!Differs(stored, value)) return;
-  stored = value;
-  RequireCurrentCase().IsDirty(true);
+  StoreAndMarkDirty(table[entry.Area][entry.Face], value);
 }
 
 float clsOverallAppliedLoads::SteppedWind_Load_1(BuildingAreas buildingArea, Faces face) const {

@@ -14,7 +14,7 @@ constexpr auto Duo = RoofTypes::Duo_pitched_roof;
 constexpr auto Curved = RoofTypes::Curved_roof;
 
 class CantileverSearch : public MemberCase {
- protected:
+ public:
   // Cantilevers of 1.5 m and 2 m; the roof zone z has a pressure of 1 + z / 10, each wall zone a pressure
   // that tells its number, its place (A 1, B 2, C 3, windward 5, leeward 6) and the wind face.
   void CantileverCase(RoofTypes roofType) {
@@ -197,8 +197,9 @@ TEST_F(CantileverSearch, TakesTheSecondWallZoneOnlyPastTheLimit) {
     WallLengths(each.LengthOfA, each.LengthOfB);
     ASSERT_TRUE(Search(each.Face)) << each.Name;
     for (const CantileverZones& zone : Loads().GetCantileverZones())
-      if (zone.Cantilever_ZoneDescription == each.Label)
+      if (zone.Cantilever_ZoneDescription == each.Label) {
         EXPECT_EQ(zone.Cantilever_InternalAppliedLoads, each.Internal) << each.Name;
+      }
   }
 }
 
@@ -353,14 +354,18 @@ TEST_F(CantileverSearch, KeepsTheTablesConsistentWhateverTheBuilding) {
     const auto zones = Loads().GetCantileverZones();
     if (number == 0) {
       ASSERT_EQ(found, !zones.empty());
-      if (found) ASSERT_EQ(Loads().CantileverZoneIndexTo(), static_cast<int>(zones.size()) - 1);
+      if (found) {
+        ASSERT_EQ(Loads().CantileverZoneIndexTo(), static_cast<int>(zones.size()) - 1);
+      }
     }
     if (results && !zones.empty()) handled += number == 0 ? zones.size() : zones.size() - 1;
     const auto table = Loads().GetCantileverResults();
     ASSERT_EQ(table.size(), handled + 1);
     ASSERT_EQ(table.back().Cantilever_Zone, "");
     for (const CantileverZones& zone : zones)
-      if (number == 0) ASSERT_TRUE(zone.Cantilever_OverallAppliedLoads.ends_with(" kN/m²"));
+      if (number == 0) {
+        ASSERT_TRUE(zone.Cantilever_OverallAppliedLoads.ends_with(" kN/m²"));
+      }
   }
 }
 

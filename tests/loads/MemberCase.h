@@ -1,6 +1,7 @@
 // A case whose loads are set by hand, zone by zone, so that a test knows every text to the character.
 #pragma once
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 #include "BuiltInEngines.h"
@@ -19,14 +20,16 @@ int ErrorNumberOf(Call&& call) {
 }
 
 class MemberCase : public testing::Test {
- protected:
+ public:
   static constexpr auto Roof = BuildingAreas::baRoof;
   static constexpr auto Walls = BuildingAreas::baWalls;
   static constexpr auto Parapet = BuildingAreas::baParapet;
 
   void SetUp() override {
     RegisterBuiltInEngines();
-    Host().LibraryFolder = [] { return testing::TempDir(); };
+    const std::string folder = testing::TempDir() + "orve-member-loads";
+    std::filesystem::create_directories(folder);
+    Host().LibraryFolder = [folder] { return folder; };
     Case = CreateCurrentCase();
   }
 

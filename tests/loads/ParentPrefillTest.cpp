@@ -5,7 +5,7 @@ namespace orve {
 namespace {
 
 class ParentPrefill : public MemberCase {
- protected:
+ public:
   void SetParent(ParentTypes type) {
     Case->Parent_Span(6);
     Case->Parent_Centres(1.5f);
@@ -56,7 +56,7 @@ TEST_F(ParentPrefill, FollowsTheKindOfDesign) {
       {7, "roof walls pitch 12.000 spans 6.0000  6.0000  6.0000 "},
       {8, "roof walls cantilever roof-diagonal 6.1850 pitch 12.000 spans 6.0000  6.0000  6.0000 "},
       {9,
-       "parapet height 1.1000 above-floor 9.0000 parapet-side 5.1199 parapet-gable 5.1199 "
+       "parapet height 1.1000 above-floor 9.0000 parapet-side 5.1200 parapet-gable 5.1200 "
        "spans 6.0000  6.0000  6.0000 "},
       {10, "roof walls cantilever roof-diagonal 12.093 pitch 12.000 spans 6.0000  6.0000  6.0000 "},
       {11, "spans 6.0000  6.0000  6.0000 "},
@@ -130,10 +130,13 @@ TEST_F(ParentPrefill, LeavesAnEavesBeamWithoutALoad) {
 }
 
 TEST_F(ParentPrefill, PrefillsNothingWhenAValueDoesNotFit) {
-  const std::string blank = State();
-  Case->Parent_Span(3e38f);
-  EXPECT_EQ(ErrorNumberOf([&] { Case->Parent_Type(ParentTypes::Purlin_Continuous_Double); }), 6);
-  EXPECT_EQ(State(), blank);
+  Case->Parent_Type(ParentTypes::Purlin_Continuous_Double);
+  Case->Clear();
+  const std::string before = State();
+  EXPECT_EQ(ErrorNumberOf([&] { Case->Parent_Span(3e38f); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Case->Parent_Type(ParentTypes(70000)); }), 6);
+  EXPECT_EQ(Case->Parent_Type(), ParentTypes::Purlin_Continuous_Double);
+  EXPECT_EQ(State(), before);
 }
 
 }  // namespace
