@@ -1,29 +1,20 @@
 #include "Sources.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstddef>
+#include <iterator>
+
+#include "common/NumberText.h"
 
 namespace orve {
 
 namespace {
 
-std::string NumberText(double value) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, value).ptr;
-  return {text, end};
-}
-
-std::string FractionText(double value) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 3).ptr;
-  return {text, end};
-}
-
 std::string AxisText(const SourceAxis& axis) {
-  std::string text = axis.name + " " + NumberText(axis.low);
-  if (axis.high != axis.low) text += " to " + NumberText(axis.high);
+  std::string text = axis.name + " " + ShortestText(axis.low);
+  if (axis.high != axis.low) text += " to " + ShortestText(axis.high);
   if (!axis.unit.empty()) text += " " + axis.unit;
-  if (axis.high != axis.low) text += " (" + FractionText(axis.fraction) + ")";
+  if (axis.high != axis.low) text += " (" + FormatFixed(axis.fraction, 3) + ")";
   return text;
 }
 
@@ -36,19 +27,10 @@ void Append(std::string& text, std::string_view separator, const std::string& pa
 }  // namespace
 
 std::string_view SourceStatusText(SourceStatus status) {
-  switch (status) {
-    case SourceStatus::Confirmed:
-      return "confirmed";
-    case SourceStatus::Consistent:
-      return "consistent";
-    case SourceStatus::Recalled:
-      return "recalled";
-    case SourceStatus::EngineChoice:
-      return "engine choice";
-    case SourceStatus::StandingIn:
-      return "standing in";
-  }
-  return {};
+  static constexpr std::string_view kTexts[] = {"confirmed", "consistent", "recalled", "engine choice",
+                                                "standing in"};
+  const auto index = static_cast<std::size_t>(status);
+  return index < std::size(kTexts) ? kTexts[index] : std::string_view();
 }
 
 SourceStatus Weaker(SourceStatus first, SourceStatus second) {
@@ -62,7 +44,7 @@ std::string SourceRecord::Text() const {
   Append(text, ", ", item);
   for (const SourceAxis& axis : axes) Append(text, ", ", AxisText(axis));
   std::string values;
-  for (const double corner : corners) Append(values, " ", NumberText(corner));
+  for (const double corner : corners) Append(values, " ", ShortestText(corner));
   Append(text, ": ", values);
   text += " [" + std::string(SourceStatusText(status)) + "]";
   Append(text, " ", note);

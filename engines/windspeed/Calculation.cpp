@@ -11,35 +11,42 @@ namespace {
 
 constexpr double kHalfDensityOfAir = 0.613;  // kg/m3, so that q is in Pa
 
-// Topography, effective height and terrain factors.
-void UpdateTerrain(SectorResults& results, const InputValues& inputs, std::size_t sector) {
-  const auto usable = [&](Input input) { return inputs.Usable(input, sector); };
-  const double mode = usable(Input::TopographyMode);
+double Usable(const SectorResults& results, Input input) {
+  return results.usable[static_cast<std::size_t>(input)];
+}
+
+// What hangs on the sector's own values: the topographic feature and the displacement height.
+void UpdateSite(SectorResults& results, const InputValues& inputs, std::size_t sector) {
+  for (std::size_t index = 0; index < kSectorValues; ++index)
+    results.usable[index] = inputs.Usable(static_cast<Input>(index), sector);
   results.feature = Feature{};
+  const double mode = inputs.Usable(Input::TopographyMode, sector);
   if (mode == kByTopography)
-    results.feature = DescribeFeature(usable(Input::CrestHeight), usable(Input::UpwindLength),
-                                      usable(Input::DownwindLength), usable(Input::SiteLocation));
+    results.feature =
+        DescribeFeature(Usable(results, Input::CrestHeight), Usable(results, Input::UpwindLength),
+                        Usable(results, Input::DownwindLength), Usable(results, Input::SiteLocation));
   else if (mode != kByAltitude)
     results.feature.known = false;
-  const double height = usable(Input::Height);
-  results.Sh = TopographicIncrement(results.feature, height);
-
-  const double toSea = usable(Input::DistanceToSea);
-  const double inTown = usable(Input::DistanceInTown);
   results.Zd =
-      DisplacementHeight(usable(Input::ObstructionHeight), usable(Input::ObstructionSpacing), inTown);
+      DisplacementHeight(Usable(results, Input::ObstructionHeight),
+                         Usable(results, Input::ObstructionSpacing), Usable(results, Input::DistanceInTown));
+}
+
+// What hangs on the height too: topographic increment, effective height and terrain factors.
+void UpdateTerrain(SectorResults& results, double height) {
+  const double toSea = Usable(results, Input::DistanceToSea);
+  const double inTown = Usable(results, Input::DistanceInTown);
+  results.Sh = TopographicIncrement(results.feature, height);
   results.He = EffectiveHeight(height, results.Zd);
   results.terrain = FactorsAt(PlaceOf(results.He, toSea, inTown));
   results.line = SizeEffectLine(results.He, toSea, inTown);
 }
 
 // Site wind speed and the dynamic pressure of a gust peak factor of 3.44.
-void UpdateSpeed(SectorResults& results, const SiteResults& site, const InputValues& inputs,
+void UpdateSpeed(SectorResults& results, const SiteResults& site, double altitude, double basicWindSpeed,
                  std::size_t sector) {
-  results.Sa = AltitudeFactor(results.feature, inputs.Usable(Input::SiteAltitude, sector),
-                              inputs.Usable(Input::BaseAltitude, sector));
-  results.Vs =
-      inputs.Usable(Input::BasicWindSpeed, sector) * results.Sa * DirectionFactor(sector) * site.Ss * site.Sp;
+  results.Sa = AltitudeFactor(results.feature, altitude, Usable(results, Input::BaseAltitude));
+  results.Vs = basicWindSpeed * results.Sa * DirectionFactor(sector) * site.Ss * site.Sp;
   results.logOfSpeed = LogOfSpeed(results.Vs * results.terrain.Sc * results.terrain.Tc * (1 + results.Sh));
   const double Ve = results.Vs * TerrainAndBuildingFactor(results.terrain, kGustPeakAt5m, results.Sh);
   results.q = kHalfDensityOfAir * Ve * Ve;
@@ -58,8 +65,8 @@ void UpdateSize(SectorResults& results, const SiteResults& site, bool small) {
 }  // namespace
 
 void Changes::Clear() {
-  seasonAndRisk = speed = diagonal = false;
-  terrain.fill(false);
+  seasonAndRisk = topographyMode = height = speed = diagonal = false;
+  site.fill(false);
 }
 
 void Update(SiteResults& results, const InputValues& inputs, const Changes& changes) {
@@ -72,12 +79,17 @@ void Update(SiteResults& results, const InputValues& inputs, const Changes& chan
     results.logOfDiagonal = LogOfDiagonal(a);
     results.sizeEffect = SizeEffectFactors(a);
   }
+  const double height = inputs.Usable(Input::Height, 0);
+  const double altitude = inputs.Usable(Input::SiteAltitude, 0);
+  const double basicWindSpeed = inputs.Usable(Input::BasicWindSpeed, 0);
   for (std::size_t sector = 0; sector < kSectors; ++sector) {
     SectorResults& own = results.sectors[sector];
-    const bool terrain = changes.terrain[sector];
+    const bool site = changes.site[sector] || changes.topographyMode;
+    const bool terrain = site || changes.height;
     const bool speed = terrain || changes.speed || changes.seasonAndRisk;
-    if (terrain) UpdateTerrain(own, inputs, sector);
-    if (speed) UpdateSpeed(own, results, inputs, sector);
+    if (site) UpdateSite(own, inputs, sector);
+    if (terrain) UpdateTerrain(own, height);
+    if (speed) UpdateSpeed(own, results, altitude, basicWindSpeed, sector);
     if (speed || changes.diagonal) UpdateSize(own, results, a <= kLeastDiagonal);
   }
 }
@@ -89,12 +101,12 @@ double DirectionFactor(std::size_t sector) {
 double StandardSa(const SectorResults& results, const InputValues& inputs, std::size_t sector) {
   return StandardAltitudeFactor(results.feature, inputs.Usable(Input::Height, sector),
                                 inputs.Usable(Input::SiteAltitude, sector),
-                                inputs.Usable(Input::BaseAltitude, sector));
+                                Usable(results, Input::BaseAltitude));
 }
 
-double StandardSb(const SectorResults& results, const InputValues& inputs, std::size_t sector) {
-  return Table4Factor(results.He, inputs.Usable(Input::DistanceToSea, sector),
-                      inputs.Usable(Input::DistanceInTown, sector));
+double StandardSb(const SectorResults& results) {
+  return Table4Factor(results.He, Usable(results, Input::DistanceToSea),
+                      Usable(results, Input::DistanceInTown));
 }
 
 }  // namespace orve::windspeed

@@ -12,10 +12,12 @@
 
 namespace orve::windspeed {
 
-/// The results of one sector. NaN stands for a result whose own inputs aren't usable.
+/// The results of one sector, by stage. NaN stands for a result whose own inputs aren't usable.
 struct SectorResults {
+  std::array<double, kSectorValues> usable{};  // the sector's values, NaN for one outside its range
   Feature feature;
   double Zd = 0;
+
   double He = 0;
   double Sh = 0;
   TerrainFactors terrain;
@@ -42,11 +44,13 @@ struct SiteResults {
 /// Which stages are out of date.
 struct Changes {
   bool seasonAndRisk = true;
+  bool topographyMode = true;
+  bool height = true;
   bool speed = true;
   bool diagonal = true;
-  std::array<bool, kSectors> terrain;
+  std::array<bool, kSectors> site;
 
-  Changes() { terrain.fill(true); }
+  Changes() { site.fill(true); }
   void Clear();
 };
 
@@ -58,6 +62,6 @@ double DirectionFactor(std::size_t sector);
 
 /// Sa and Sb of the standard method, worked out from results and their inputs.
 double StandardSa(const SectorResults& results, const InputValues& inputs, std::size_t sector);
-double StandardSb(const SectorResults& results, const InputValues& inputs, std::size_t sector);
+double StandardSb(const SectorResults& results);
 
 }  // namespace orve::windspeed

@@ -1,8 +1,9 @@
 #include "windspeed/Inputs.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
+
+#include "common/NumberText.h"
 
 namespace orve::windspeed {
 
@@ -107,12 +108,8 @@ std::string RefusalText(Input input, std::size_t sector, double value) {
 }
 
 std::string ShownNumber(double value) {
-  char text[32];
-  char* const last = text + sizeof text;
   // Inputs are whole numbers or 32-bit values, which have a shorter text at their own width.
-  const auto end = value == std::trunc(value) ? std::to_chars(text, last, value).ptr
-                                              : std::to_chars(text, last, static_cast<float>(value)).ptr;
-  return {text, end};
+  return value == std::trunc(value) ? ShortestText(value) : ShortestText(static_cast<float>(value));
 }
 
 }  // namespace orve::windspeed

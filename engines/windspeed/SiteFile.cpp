@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <cstddef>
 #include <string_view>
 #include <system_error>
 
 #include "common/Error.h"
 #include "common/FileLayer.h"
+#include "common/NumberText.h"
 
 namespace orve::windspeed {
 
@@ -105,11 +105,13 @@ class Parser {
   void Number(std::string_view key, std::string_view text, float& value, bool& seen) {
     if (seen) return Fault(std::string(key), "the key stands twice");
     seen = true;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (text.empty() || read.ec == std::errc::invalid_argument || read.ptr != text.data() + text.size() ||
-        !std::isfinite(value))
-      return Fault(std::string(key), std::string(text).append(" isn't a number"));
-    if (read.ec != std::errc{}) Fault(std::string(key), std::string(text) + " doesn't fit a 32-bit number");
+    try {
+      value = TextToSingle(text);
+    } catch (const Error& error) {
+      const bool tooLarge = error.Number() == static_cast<int>(ErrorNumber::Overflow);
+      Fault(std::string(key),
+            std::string(text).append(tooLarge ? " doesn't fit a 32-bit number" : " isn't a number"));
+    }
   }
 
   void FindMissing() {

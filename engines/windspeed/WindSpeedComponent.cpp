@@ -100,7 +100,7 @@ void WindSpeedComponent::StartMonth(std::int32_t value) {
 }
 
 void WindSpeedComponent::TopogMode(std::int32_t value) {
-  if (Store(m_inputs.topographyMode, value)) m_changes.terrain.fill(true);
+  if (Store(m_inputs.topographyMode, value)) m_changes.topographyMode = true;
 }
 
 void WindSpeedComponent::SiteAltitude(float value) {
@@ -122,12 +122,12 @@ float WindSpeedComponent::SectorValue(WindSectors sector, Input input) const {
 void WindSpeedComponent::SetSectorValue(WindSectors sector, Input input, float value) {
   const std::size_t index = SectorIndex(sector);
   if (!Store(m_inputs.site.sectors[index][static_cast<std::size_t>(input)], value)) return;
-  m_changes.terrain[index] = true;
+  m_changes.site[index] = true;
   AcceptSite();
 }
 
 void WindSpeedComponent::H(float value) {
-  if (Store(m_inputs.height, value)) m_changes.terrain.fill(true);
+  if (Store(m_inputs.height, value)) m_changes.height = true;
 }
 
 void WindSpeedComponent::A(float value) {
@@ -199,7 +199,7 @@ float WindSpeedComponent::Sd(WindSectors sector) const {
 float WindSpeedComponent::StandardSb(WindSectors sector) const {
   const std::size_t index = RequireSiteResults(sector);
   const SectorResults& results = m_results.sectors[index];
-  const double factor = windspeed::StandardSb(results, m_used, index);
+  const double factor = windspeed::StandardSb(results);
   if (std::isnan(factor) || results.He > kTable4Height) RefuseStandardSb(m_used, index, results.He);
   return static_cast<float>(factor);
 }
