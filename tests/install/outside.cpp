@@ -1,6 +1,6 @@
 // A host outside the project: it sees nothing but the installed package.
+#include <BuiltInEngines.h>
 #include <cstdio>
-#include <engines/BuiltInEngines.h>
 #include <filesystem>
 #include <orve3_bs6399_2.h>
 
