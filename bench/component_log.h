@@ -17,26 +17,33 @@ struct Components {
   std::shared_ptr<orve::BreCpX> coefficients;
 };
 
-/// One call: which member, and its argument.
-struct Call {
+/// The argument of a call: a value or a sector.
+struct Argument {
   double value;
-  std::int16_t member;
-  std::int16_t sector;
+  orve::WindSectors sector;
 };
 
 class CallLog {
  public:
-  using Replayer = void (*)(const Components&, const Call&);
+  using Replayer = void (*)(const Components&, const Argument&);
 
   /// Calls are kept only while the log is on.
   void Record(bool on) { m_on = on; }
-  void Add(Replayer replayer, double value, std::int16_t sector);
+  void Add(Replayer replayer, const Argument& argument);
   void Replay(const Components& components) const;
   std::size_t Size() const { return m_calls.size(); }
 
  private:
+  // A call is a position among the members called and one among the arguments given, so that a log of a
+  // million calls stays small enough not to be what the replay spends its time on.
+  struct Call {
+    std::uint16_t member;
+    std::uint16_t argument;
+  };
+
   bool m_on = false;
   std::vector<Replayer> m_replayers;
+  std::vector<Argument> m_arguments;
   std::vector<Call> m_calls;
 };
 

@@ -81,12 +81,13 @@ bool SameLoads(const std::vector<bench::NetLoads>& library, const std::vector<be
   return true;
 }
 
-// Keeps the time of one run of each benchmark for the ratios.
+// Keeps the processor time of one run of each benchmark for the ratios.
 class Reporter : public benchmark::ConsoleReporter {
  public:
+  Reporter() : ConsoleReporter(OO_None) {}
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs)
-      m_seconds[run.run_name.function_name] = run.real_accumulated_time / static_cast<double>(run.iterations);
+      m_seconds[run.run_name.function_name] = run.cpu_accumulated_time / static_cast<double>(run.iterations);
     ConsoleReporter::ReportRuns(runs);
   }
   double Seconds(const std::string& name) const {

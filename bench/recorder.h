@@ -30,44 +30,45 @@ class Recorder {
   template <class Value, Value (Component::*member)() const>
   Value Get() const {
     m_log.Add([](const Components& components,
-                 const Call&) { benchmark::DoNotOptimize((Pick<Component>(components).*member)()); },
-              0, 0);
+                 const Argument&) { benchmark::DoNotOptimize((Pick<Component>(components).*member)()); },
+              {0, {}});
     return (m_inner.get()->*member)();
   }
 
   template <class Value, void (Component::*member)(Value)>
   void Set(Value value) {
-    m_log.Add([](const Components& components,
-                 const Call& call) { (Pick<Component>(components).*member)(static_cast<Value>(call.value)); },
-              static_cast<double>(value), 0);
+    m_log.Add(
+        [](const Components& components, const Argument& argument) {
+          (Pick<Component>(components).*member)(static_cast<Value>(argument.value));
+        },
+        {static_cast<double>(value), {}});
     (m_inner.get()->*member)(value);
   }
 
   template <float (Component::*member)(orve::WindSectors) const>
   float Read(orve::WindSectors sector) const {
     m_log.Add(
-        [](const Components& components, const Call& call) {
-          benchmark::DoNotOptimize((Pick<Component>(components).*member)(orve::WindSectors(call.sector)));
+        [](const Components& components, const Argument& argument) {
+          benchmark::DoNotOptimize((Pick<Component>(components).*member)(argument.sector));
         },
-        0, static_cast<std::int16_t>(sector));
+        {0, sector});
     return (m_inner.get()->*member)(sector);
   }
 
   template <void (Component::*member)(orve::WindSectors, float)>
   void Write(orve::WindSectors sector, float value) {
     m_log.Add(
-        [](const Components& components, const Call& call) {
-          (Pick<Component>(components).*member)(orve::WindSectors(call.sector),
-                                                static_cast<float>(call.value));
+        [](const Components& components, const Argument& argument) {
+          (Pick<Component>(components).*member)(argument.sector, static_cast<float>(argument.value));
         },
-        value, static_cast<std::int16_t>(sector));
+        {value, sector});
     (m_inner.get()->*member)(sector, value);
   }
 
   template <void (Component::*member)()>
   void Do() {
-    m_log.Add([](const Components& components, const Call&) { (Pick<Component>(components).*member)(); }, 0,
-              0);
+    m_log.Add([](const Components& components, const Argument&) { (Pick<Component>(components).*member)(); },
+              {0, {}});
     (m_inner.get()->*member)();
   }
 

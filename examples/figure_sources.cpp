@@ -28,9 +28,12 @@ std::vector<SourceRecord> WindSourcesOf(const clsCurrentCase& windCase, WindArea
   if (!sources) return {};
   windCase.DynamicPressure()->DynamicPressure_q(area, sector);
   std::vector<SourceRecord> found;
+  // The hybrid method has its own fixed gt and doesn't ask the component for it.
+  if (windCase.DynamicPressure()->Method() == Methods::Directional)
+    found.push_back(sources->Source(WindFactor::gt, sector));
   for (const WindFactor factor :
        {WindFactor::Sp, WindFactor::Ss, WindFactor::Sd, WindFactor::Sa, WindFactor::He, WindFactor::Sc,
-        WindFactor::St, WindFactor::Tc, WindFactor::Tt, WindFactor::gt, WindFactor::q, WindFactor::Ca})
+        WindFactor::St, WindFactor::Tc, WindFactor::Tt, WindFactor::q, WindFactor::Ca})
     found.push_back(sources->Source(factor, sector));
   return found;
 }

@@ -1,5 +1,6 @@
 #include <map>
 #include <orve3_bs6399_2.h>
+#include <set>
 #include <string>
 #include <tuple>
 
@@ -13,14 +14,16 @@ using namespace orve;
 
 namespace {
 
-// Standard, table and status of a source, with the number of figures on the sheet that rest on it.
-using SourceCount = std::map<std::tuple<std::string, std::string, std::string>, int>;
+// Table, standard and status of a source, with the number of figures on the sheet that rest on it.
+struct SourceCount {
+  std::map<std::tuple<std::string, std::string, std::string>, int> figures;
+  std::set<std::string> editions;
+};
 
 void Count(SourceCount& counts, const std::vector<SourceRecord>& sources) {
   for (const SourceRecord& source : sources) {
-    const std::string standard =
-        source.edition.empty() ? source.standard : source.standard + " (" + source.edition + ")";
-    ++counts[{source.table, standard, std::string(SourceStatusText(source.status))}];
+    ++counts.figures[{source.table, source.standard, std::string(SourceStatusText(source.status))}];
+    if (!source.edition.empty()) counts.editions.insert(source.standard + ": " + source.edition);
   }
 }
 
@@ -47,7 +50,7 @@ void PrintSources(std::ostream& out, const clsCurrentCase& windCase) {
 
   PrintHeading(out, "Where the figures come from");
   TextTable table({"Table", "Standard", "Status", "Figures"}, 3);
-  for (const auto& [source, count] : counts)
+  for (const auto& [source, count] : counts.figures)
     table.Add({std::get<0>(source), std::get<1>(source), std::get<2>(source), std::to_string(count)});
   table.Print(out);
   out << "\n  Only a confirmed figure has been read in print; the others are to be checked against the "
