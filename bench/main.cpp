@@ -13,12 +13,12 @@
 #include <string>
 #include <windspeed/WindSpeedEngine.h>
 
-#include "allocations.h"
 #include "component_log.h"
 #include "portal_building.h"
 #include "private_folder.h"
 #include "sheet.h"
 #include "straight.h"
+#include "support/AllocationCount.h"
 
 namespace {
 
@@ -123,11 +123,11 @@ int main(int argc, char** argv) try {
   const auto libraryLoads = bench::ReadNetLoads(*windCase);
   const bool sameLoads = SameLoads(libraryLoads, bench::StraightNetLoads(building, live));
   bench::ReadNumbers(*windCase);
-  const std::size_t before = bench::Allocations();
+  const std::size_t before = orve::test::AllocationCount();
   bench::ReadNumbers(*windCase);
-  const std::size_t ofNumbers = bench::Allocations() - before;
+  const std::size_t ofNumbers = orve::test::AllocationCount() - before;
   const bench::Texts texts = bench::ReadTexts(*windCase);
-  const std::size_t ofTexts = bench::Allocations() - before - ofNumbers;
+  const std::size_t ofTexts = orve::test::AllocationCount() - before - ofNumbers;
 
   benchmark::RegisterBenchmark("whole_sheet", [&](benchmark::State& state) {
     for (auto _ : state) {
