@@ -126,12 +126,14 @@ class Records {
   }
 
   SourceRecord Displacement() const {
-    const std::string item = "displacement height Hd";
-    if (Value(Input::DistanceInTown) == 0)
-      return Record("clause 1.7.3", item, SourceStatus::Recalled, "country terrain: 0");
-    if (Value(Input::ObstructionHeight) <= 0)
-      return Record("clause 1.7.3", item, SourceStatus::EngineChoice, "Ho not above 0: 0");
-    return Record("clause 1.7.3", item, SourceStatus::Confirmed, "1.2 Ho - 0.2 Xo, from 0 to 0.8 Ho");
+    const auto record = [](SourceStatus status, const char* note) {
+      return Record("clause 1.7.3", "displacement height Hd", status, note);
+    };
+    const double ho = Value(Input::ObstructionHeight);
+    if (ho == 0) return record(SourceStatus::Confirmed, "no obstructions: 0");
+    if (Value(Input::DistanceInTown) == 0) return record(SourceStatus::Recalled, "country terrain: 0");
+    if (ho < 0) return record(SourceStatus::EngineChoice, "Ho below 0: 0");
+    return record(SourceStatus::Confirmed, "1.2 Ho - 0.2 Xo, from 0 to 0.8 Ho");
   }
 
   SourceRecord Height() const {
@@ -144,7 +146,8 @@ class Records {
     if (!feature.significant)
       return Record("Table 25", "topographic increment Sh, topography not significant", ReachStatus(), "0");
     SourceRecord record = Record("Table 25", "topographic increment Sh", SourceStatus::Recalled);
-    record.corners = {LocationFactor(feature, Value(Input::Height))};
+    // To the places that the fits have.
+    record.corners = {std::round(1e4 * LocationFactor(feature, Value(Input::Height))) / 1e4};
     record.note = std::string("2 psi_e s for the s shown, ") +
                   (feature.kind == FeatureKind::HillOrRidge ? "hill or ridge" : "cliff or escarpment") +
                   ", psi_e " + ShownNumber(feature.effectiveSlope) + ", Le " +
