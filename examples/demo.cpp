@@ -6,6 +6,7 @@
 
 #include "portal_building.h"
 #include "private_folder.h"
+#include "scene_members.h"
 #include "sheets.h"
 
 int main() try {
@@ -17,6 +18,7 @@ int main() try {
   examples::DescribePortalBuilding(*windCase);
   examples::DescribeSite(*windCase);
   examples::PrintWholeSheet(std::cout, *windCase);
+  examples::PrintMemberScene(*windCase, std::cout);
   return 0;
 } catch (const orve::Error& error) {
   std::cerr << "Error " << error.Number() << ": " << error.what() << "\n";

@@ -29,7 +29,7 @@ void StartFromPurlin(clsCurrentCase& windCase, std::ostream& out) {
 
   const auto building = windCase.BuildingDimensions();
   const auto loads = windCase.OverallAppliedLoads();
-  PrintHeading(out, "Purlin, continuous over two bays");
+  PrintHeading(out, "Purlin, continuous double");
   TextTable table({"Prefilled from the purlin", "", ""}, 3);
   table.Add(
       {"Span and centres", Metres(windCase.Parent_Span()) + ", " + Metres(windCase.Parent_Centres()), ""});
