@@ -30,6 +30,9 @@ float LengthToSingle(double value) {
   return static_cast<float>(value);
 }
 
+constexpr std::string_view kDirectionalNote =
+    "figures of the standard method, served with directional wind speeds (3.4, recalled)";
+
 class CoefficientEngine final : public BreCpX, public CoefficientSources {
  public:
   CoefficientEngine() {
@@ -39,12 +42,13 @@ class CoefficientEngine final : public BreCpX, public CoefficientSources {
 
   std::string TypeName() const override { return "BreCp2_2X"; }
 
-  // The tables serve both methods: the standard-method figures hold for the directional method's wind speeds
-  // too (3.4). The data folder, the automatic breadth and the reporting have nothing to act on.
+  // The engine finds its data folder by itself; the automatic breadth and the reporting have nothing to act
+  // on.
   void datapath(const std::string&) override {}
   void AutoBreadth(bool) override {}
   void Reporting(std::int32_t) override {}
-  void Method(std::int32_t) override {}
+  // The figures of the standard method serve both methods (3.4); only their source tells the difference.
+  void Method(std::int32_t value) override { m_directional = value == 1; }
 
   std::int32_t TypeIndex() const override { return m_inputs.typeIndex; }
   void TypeIndex(std::int32_t value) override {
@@ -92,7 +96,9 @@ class CoefficientEngine final : public BreCpX, public CoefficientSources {
   SourceRecord Source() const override {
     if (!Valid()) coefficients::RefuseZone(m_inputs, m_shape, m_angle);
     const coefficients::Request request = MakeRequest();
-    return coefficients::SourceOf(request, coefficients::ReadCoefficient(request));
+    SourceRecord record = coefficients::SourceOf(request, coefficients::ReadCoefficient(request));
+    if (m_directional) record.note.append(record.note.empty() ? "" : "; ").append(kDirectionalNote);
+    return record;
   }
 
  private:
@@ -117,6 +123,7 @@ class CoefficientEngine final : public BreCpX, public CoefficientSources {
   }
 
   Inputs m_inputs;
+  bool m_directional = false;
   Shape m_shape = Shape::None;
   WindAngle m_angle = WindAngle::None;
   std::span<const std::string_view> m_zones;

@@ -243,7 +243,7 @@ TableFileResult ReadTableFile(const std::string& path) {
   try {
     return ReadTableText(ToUtf8(ReadWholeFile(path)));
   } catch (const Error& error) {
-    return TableFault{0, error.what()};
+    return TableFault{0, "the file can't be read (error " + std::to_string(error.Number()) + ")"};
   }
 }
 

@@ -35,6 +35,9 @@ TEST_F(CoefficientSource, GivesCornersFractionAndStatus) {
   EXPECT_EQ(Source().status, SourceStatus::Recalled);
   Look(Walls, 90, 1);
   EXPECT_EQ(Source().status, SourceStatus::Consistent);
+  EXPECT_EQ(Source().note, "0 isolated, 1 funnelling");
+  engine->Method(1);
+  EXPECT_NE(Source().note.find("figures of the standard method"), std::string::npos);
 }
 
 TEST_F(CoefficientSource, StandInsAreNeverShownAsFiguresOfTheStandard) {
