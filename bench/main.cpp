@@ -14,6 +14,7 @@
 #include <windspeed/WindSpeedEngine.h>
 
 #include "component_log.h"
+#include "engine_calls.h"
 #include "portal_building.h"
 #include "private_folder.h"
 #include "sheet.h"
@@ -159,6 +160,7 @@ int main(int argc, char** argv) try {
   benchmark::RegisterBenchmark("construction_of_the_root", [&](benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(CreateCurrentCase());
   })->Unit(benchmark::kMicrosecond);
+  bench::RegisterEngineBenchmarks();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
