@@ -54,7 +54,7 @@ class StorageTest : public testing::Test {
     std::filesystem::permissions(folder, std::filesystem::perms::all);
     Host() = HostServices();
     Host().LibraryFolder = [this] { return folder.string(); };
-    Host().SystemDirectory = Host().LibraryFolder;
+    Host().SystemDirectory = [] { return std::string(ORVE_TEST_SYSTEM); };
     Host().Now = [this] { return now; };
     Host().MsgBox = [this](const std::string& prompt, std::int32_t buttons, const std::string& title) {
       messages.push_back(title + "|" + std::to_string(buttons) + "|" + prompt);
