@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
         Sweep{"H", 3, 120, "HybridCa", {{"A", 40}, {"InTown", 6}}, {10, 20}},
         Sweep{"ToSea", 0, 150, "BSGust", {}, {}},
         // Where the sea is nearer than the town's edge its distance counts for both; 0 is country.
-        Sweep{"ToSea", 0.001F, 150, "BSGust", kTown, {}},
+        Sweep{"ToSea", 0.001F, 150, "BSGust", kTown, {}}, Sweep{"ToSea", 0, 100, "Tc", kTown, {0.005}},
         Sweep{"ToSea", 0, 150, "HybridCa", {{"A", 40}, {"H", 4}}, {2}},
         Sweep{"ToSea", 0, 150, "HybridCa", {{"A", 40}, {"H", 15}}, {10}},
         Sweep{"InTown", 0.001F, 40, "BSGust", {}, {}},
@@ -81,6 +81,14 @@ INSTANTIATE_TEST_SUITE_P(
         // A slope above 0.05 counts, by LD the feature turns into an escarpment, and the fits end at H/Le
         // of 2.
         Sweep{"CrestHt", 0, 60, "Sh", kHill, {5}}, Sweep{"DnwLen", 61, 600, "Sh", kHill, {}},
+        // The reach follows other lengths above a slope of 0.3 and on an escarpment.
+        Sweep{"CrestHt",
+              20,
+              60,
+              "Sh",
+              {{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 100}, {"CrestX", -49}},
+              {30, 30.626}},
+        Sweep{"DnwLen", 61, 600, "Sh", {{"CrestHt", 20}, {"UpwLen", 100}, {"CrestX", 160}}, {320, 400}},
         Sweep{"H", 1, 320, "Sh", {{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 100}}, {200}},
         Sweep{"Risk", 0.001F, 0.999F, "Sp", {}, {}}));
 
