@@ -9,7 +9,7 @@ LOGS="$PWD/build/logs"
 mkdir -p "$LOGS"
 
 install_missing g++ cmake ninja-build || exit 1
-if ! step "build of the demo" build_preset demo; then
+if ! step "build of the demo" build_target demo demo; then
   finish
   exit 1
 fi

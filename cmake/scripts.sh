@@ -51,6 +51,11 @@ build_preset() {
   cmake --preset "$@" && cmake --build --preset "$1" --parallel "$JOBS"
 }
 
+# build_target PRESET TARGET: configures a preset and builds one of its targets.
+build_target() {
+  cmake --preset "$1" && cmake --build --preset "$1" --parallel "$JOBS" --target "$2"
+}
+
 # test_preset PRESET: runs the tests of a preset; each test counts.
 test_preset() {
   local preset="$1" log="$LOGS/tests_$1.log" start=$SECONDS summary failed total
