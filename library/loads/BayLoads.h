@@ -6,13 +6,13 @@ namespace orve {
 /// Bays laid along one line, and the steps of a load along the same line: W1 over Z1, then W2 over Z2, then
 /// W3 for all that follows. Loads in kN/m², lengths in one unit.
 struct BayLoadCase {
-  float L1;  ///< First bay.
-  float L2;  ///< Second bay.
-  float W1;
-  float W2;
-  float W3;
-  float Z1;
-  float Z2;
+  float L1 = 0;  ///< First bay.
+  float L2 = 0;  ///< Second bay.
+  float W1 = 0;
+  float W2 = 0;
+  float W3 = 0;
+  float Z1 = 0;
+  float Z2 = 0;
 };
 
 /// The uniform load equal to the average over the first bay (the end bay). Errors: 11 for a bay length of 0

@@ -92,25 +92,28 @@ float clsOverallAppliedLoads::SteppedWind_Load(BuildingAreas buildingArea, Faces
   return ToSingle((load1 * distance1 + load2 * distance2 + load3 * distance3) / span);
 }
 
-float clsOverallAppliedLoads::SteppedBayLoad(BayLoad bayLoad, BuildingAreas buildingArea, Faces face) const {
+// The span is that of two equal bays, and the third step runs on to the end of the second.
+BayLoadCase clsOverallAppliedLoads::SteppedBays(BuildingAreas buildingArea, Faces face) const {
   const BuildingAreas area = Resolve(buildingArea);
   const Faces resolvedFace = Resolve(face);
-  const float half = ToSingle(static_cast<double>(SteppedWind_Span(area, resolvedFace)) / 2);
-  if (half == 0) return 0;
-  const float load1 = SteppedWind_Load_1(area, resolvedFace);
-  const float load2 = SteppedWind_Load_2(area, resolvedFace);
-  const float load3 = SteppedWind_Load_3(area, resolvedFace);
-  const float distance1 = SteppedWind_Distance_1(area, resolvedFace);
-  const float distance2 = SteppedWind_Distance_2(area, resolvedFace);
-  return (this->*bayLoad)(half, half, half, load1, load2, load3, distance1, distance2);
+  BayLoadCase bays;
+  bays.L1 = bays.L2 = ToSingle(static_cast<double>(SteppedWind_Span(area, resolvedFace)) / 2);
+  bays.W1 = SteppedWind_Load_1(area, resolvedFace);
+  bays.W2 = SteppedWind_Load_2(area, resolvedFace);
+  bays.W3 = SteppedWind_Load_3(area, resolvedFace);
+  bays.Z1 = SteppedWind_Distance_1(area, resolvedFace);
+  bays.Z2 = SteppedWind_Distance_2(area, resolvedFace);
+  return bays;
 }
 
 float clsOverallAppliedLoads::SteppedWind_Load_External(BuildingAreas buildingArea, Faces face) const {
-  return SteppedBayLoad(&clsOverallAppliedLoads::ExternalBayLoad, buildingArea, face);
+  const BayLoadCase bays = SteppedBays(buildingArea, face);
+  return bays.L1 == 0 ? 0 : EndBayLoad(bays);
 }
 
 float clsOverallAppliedLoads::SteppedWind_Load_Internal(BuildingAreas buildingArea, Faces face) const {
-  return SteppedBayLoad(&clsOverallAppliedLoads::InternalBayLoad, buildingArea, face);
+  const BayLoadCase bays = SteppedBays(buildingArea, face);
+  return bays.L1 == 0 ? 0 : SecondBayLoad(bays);
 }
 
 float clsOverallAppliedLoads::ExternalBayLoad(float span_L1, float span_L2, float /*span_L3*/,

@@ -15,6 +15,8 @@
 
 namespace orve {
 
+struct BayLoadCase;
+
 /// Turns coefficients into the loads that a design uses. A load is a surface pressure in kN/m²: positive
 /// pushes on the surface, negative is suction. An argument of exactly -1 means the object's own property.
 /// Nothing is cached; errors of the objects asked pass to the caller unchanged.
@@ -173,9 +175,7 @@ class clsOverallAppliedLoads {
   AreaFace Entry(BuildingAreas buildingArea, Faces face) const;
   float SteppedValue(const AreaFaceTable<float>& table, BuildingAreas buildingArea, Faces face) const;
   void SteppedValue(AreaFaceTable<float>& table, BuildingAreas buildingArea, Faces face, float value);
-  using BayLoad = float (clsOverallAppliedLoads::*)(float, float, float, float, float, float, float,
-                                                    float) const;
-  float SteppedBayLoad(BayLoad bayLoad, BuildingAreas buildingArea, Faces face) const;
+  BayLoadCase SteppedBays(BuildingAreas buildingArea, Faces face) const;
   ZoneSearch FindZoneOf(std::string_view description, BuildingAreas area, Faces face) const;
   std::string SteppedLoadText(BuildingAreas area, Faces face) const;
   std::string SelectedParapetLoads(SelectedLoadTypes selectedLoadType, Faces face) const;
