@@ -27,9 +27,9 @@ void UpdateSite(SectorResults& results, const InputValues& inputs, std::size_t s
                         Usable(results, Input::DownwindLength), Usable(results, Input::SiteLocation));
   else if (mode != kByAltitude)
     results.feature.known = false;
-  results.Zd =
-      DisplacementHeight(Usable(results, Input::ObstructionHeight),
-                         Usable(results, Input::ObstructionSpacing), Usable(results, Input::DistanceInTown));
+  results.Zd = DisplacementHeight(
+      Usable(results, Input::ObstructionHeight), Usable(results, Input::ObstructionSpacing),
+      Usable(results, Input::DistanceToSea), Usable(results, Input::DistanceInTown));
 }
 
 // What hangs on the height too: topographic increment, effective height and terrain factors.

@@ -7,11 +7,11 @@
 namespace orve::windspeed {
 
 /// Displacement height Hd in m, by the height Ho and the upwind spacing Xo of the obstructions (m). None in
-/// country terrain (recalled), nor for an Ho that isn't above 0 (the engine's choice). NaN if an input that
-/// counts is NaN.
-inline double DisplacementHeight(double ho, double xo, double inTown) {
+/// country terrain (recalled), which a site at the sea has too, nor for an Ho that isn't above 0 (the
+/// engine's choices). NaN if an input that counts is NaN.
+inline double DisplacementHeight(double ho, double xo, double toSea, double inTown) {
   if (std::isnan(inTown)) return inTown;
-  if (inTown <= 0 || ho <= 0) return 0;
+  if (inTown <= 0 || toSea <= 0 || ho <= 0) return 0;
   return std::clamp(1.2 * ho - 0.2 * xo, 0.0, 0.8 * ho);
 }
 

@@ -41,7 +41,7 @@ class Search {
 
   void Displacement() const {
     Check(Input::DistanceInTown);
-    if (Value(Input::DistanceInTown) == 0) return;
+    if (Value(Input::DistanceInTown) == 0 || Value(Input::DistanceToSea) == 0) return;
     Check(Input::ObstructionHeight);
     if (Value(Input::ObstructionHeight) > 0) Check(Input::ObstructionSpacing);
   }

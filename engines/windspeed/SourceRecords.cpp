@@ -132,6 +132,8 @@ class Records {
     const double ho = Value(Input::ObstructionHeight);
     if (ho == 0) return record(SourceStatus::Confirmed, "no obstructions: 0");
     if (Value(Input::DistanceInTown) == 0) return record(SourceStatus::Recalled, "country terrain: 0");
+    if (Value(Input::DistanceToSea) == 0)
+      return record(SourceStatus::EngineChoice, "at the sea: as country, 0");
     if (ho < 0) return record(SourceStatus::EngineChoice, "Ho below 0: 0");
     return record(SourceStatus::Confirmed, "1.2 Ho - 0.2 Xo, from 0 to 0.8 Ho");
   }

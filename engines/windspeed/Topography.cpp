@@ -23,6 +23,9 @@ constexpr double kCliffNearCrest = 0.1;
 constexpr double kCliffLeastHeight = 0.1;
 constexpr double kHeightRange = 2;
 
+// A downwind slope counts as much longer than the upwind one from twice its length on (the engine's choice).
+constexpr double kMuchLonger = 2;
+
 template <std::size_t Terms>
 double Polynomial(const std::array<double, Terms>& coefficients, double value) {
   double sum = 0;
@@ -71,8 +74,8 @@ double LocationFactorOfFits(const Feature& feature, double r) {
   const double xOverLe = feature.x / feature.effectiveLength;
   if (feature.kind == FeatureKind::CliffOrEscarpment) return DownwindOfCliff(xOverLe, r);
   const double hill = DownwindOfHill(feature.x / feature.downwindLength, r);
-  // A long downwind slope lies between a hill and an escarpment: the smaller value of the two figures holds.
-  if (feature.downwindLength <= feature.upwindLength) return hill;
+  // A much longer downwind slope lies between a hill and an escarpment: the smaller of the two values holds.
+  if (feature.downwindLength <= kMuchLonger * feature.upwindLength) return hill;
   const double cliff = DownwindOfCliff(xOverLe, r);
   return cliff < hill ? cliff : hill;
 }

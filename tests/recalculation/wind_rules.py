@@ -39,13 +39,13 @@ def probability_factor(risk):
 
 def displacement_height(s):
     """1.7.3: sheltering counts in towns only."""
-    if s["town"] <= 0 or s["Ho"] <= 0:
+    if s["town"] <= 0 or s["sea"] <= 0 or s["Ho"] <= 0:
         return 0.0
     return min(max(1.2 * s["Ho"] - 0.2 * s["Xo"], 0.0), 0.8 * s["Ho"])
 
 
 def location_factor(s, height, le):
-    """Figures 9 and 10: s at height above ground; of a hill with the longer downwind slope the smaller of the two."""
+    """Figures 9 and 10: s at height above ground; of a hill with a downwind slope over twice as long the smaller of the two."""
     r, x = height / le, s["X"]
     if r > 2:
         return 0.0
@@ -53,7 +53,7 @@ def location_factor(s, height, le):
         kinds = [slope_factor(r, fig.UPWIND_B, x / s["LU"], 1.5)]
     else:
         kinds = [slope_factor(r, fig.HILL_B, x / s["LD"], 2)] if is_hill(s) else []
-        if not kinds or s["LD"] > s["LU"]:
+        if not kinds or s["LD"] > 2 * s["LU"]:
             kinds.append(cliff_factor(x / le, r))
     return max(min(kinds), 0.0)
 
