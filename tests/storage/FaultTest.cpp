@@ -1,0 +1,246 @@
+// Saving and opening where the machine fails: a killed process, a full disk, folders and files that forbid
+// it.
+#include <chrono>
+#include <fcntl.h>
+#include <random>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "StorageTest.h"
+
+namespace orve::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Gives up the privileges that pass over permissions, for as long as it lives.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() {
+    if (::geteuid() == 0) m_changed = ::seteuid(nobody) == 0;
+  }
+  ~OrdinaryUser() {
+    if (m_changed && ::seteuid(0) != 0) std::abort();
+  }
+
+ private:
+  static constexpr uid_t nobody = 65534;
+  bool m_changed = false;
+};
+
+/// A disk on which no file can grow beyond a size.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t size) {
+    m_signal = ::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit limit{size, m_before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &m_before);
+    ::signal(SIGXFSZ, m_signal);
+  }
+
+ private:
+  rlimit m_before{};
+  sighandler_t m_signal;
+};
+
+class Faults : public CaseTest {
+ protected:
+  void SetUp() override {
+    CaseTest::SetUp();
+    fs::create_directory(folder / "cases");
+    SaveAs("cases/old.wlc");
+    old = ReadBytes(folder / "cases/old.wlc");
+    root->Description("changed");
+  }
+
+  /// A save fails with the error, and nothing is lost by it.
+  void ExpectRefused(const std::function<void()>& save, int number, const std::string& text) {
+    const Raised raised = RaisedBy(save);
+    EXPECT_EQ(raised.number, number);
+    EXPECT_EQ(raised.text, text);
+    EXPECT_EQ(ReadBytes(folder / "cases/old.wlc"), old);
+    EXPECT_TRUE(root->IsDirty());
+    EXPECT_EQ(root->Location(), Stored("cases/old.wlc"));
+    EXPECT_EQ(root->Description(), "changed");
+  }
+  std::ptrdiff_t FilesInCases() const {
+    return std::distance(fs::directory_iterator(folder / "cases"), fs::directory_iterator());
+  }
+
+  std::string old;
+};
+
+TEST_F(Faults, AFullDiskLeavesTheOldFile) {
+  const FullDisk disk(1000);
+  ExpectRefused([&] { root->Save(); }, 61, "Disk full: " + Stored("cases/old.wlc"));
+  ExpectRefused([&] { root->Save(); }, 61, "Disk full: " + Stored("cases/old.wlc"));
+  EXPECT_EQ(FilesInCases(), 1) << "no temporary file is left";
+}
+
+TEST_F(Faults, AProtectedFileOrFolderRefusesTheSave) {
+  fs::create_directory(folder / "closed");
+  fs::permissions(folder / "closed", fs::perms(0555));
+  fs::permissions(folder / "cases", fs::perms(0777));
+  fs::permissions(folder / "cases/old.wlc", fs::perms(0444));
+  const OrdinaryUser user;
+  ExpectRefused([&] { root->Save(); }, 70, "Permission denied: " + Stored("cases/old.wlc"));
+  ExpectRefused([&] { SaveAs("closed/new.wlc"); }, 70, "Permission denied: " + Stored("closed/new.wlc"));
+}
+
+TEST_F(Faults, AWritableFileInAClosedFolderIsWrittenInPlace) {
+  WriteBytes(folder / "cases/old.wlc", old + std::string(5000, ' '));
+  fs::permissions(folder / "cases/old.wlc", fs::perms(0666));
+  fs::permissions(folder / "cases", fs::perms(0555));
+  {
+    const OrdinaryUser user;
+    root->Save();
+  }
+  EXPECT_EQ(root->Description(), "changed");
+  EXPECT_FALSE(root->IsDirty());
+  const std::string text = ReadBytes(folder / "cases/old.wlc");
+  EXPECT_TRUE(text.ends_with("10:21:00\r\n")) << "what stood behind the new end is cut off";
+  EXPECT_NE(text.find("Description=changed\r\n"), std::string::npos);
+}
+
+TEST_F(Faults, PlacesThatAreNoFileRefuseTheSave) {
+  fs::create_directory(folder / "folder.wlc");
+  fs::create_directory(folder / "vanished");
+  SaveAs("vanished/x.wlc");
+  SaveAs("cases/old.wlc");
+  old = ReadBytes(folder / "cases/old.wlc");
+  fs::remove_all(folder / "vanished");
+  root->Description("");
+  root->Description("changed");
+  ExpectRefused([&] { SaveAs("folder.wlc"); }, 75, "Path/File access error: " + Stored("folder.wlc"));
+  ExpectRefused([&] { SaveAs("vanished/x.wlc"); }, 76, "Path not found: " + Stored("vanished/x.wlc"));
+  ExpectRefused([&] { SaveAs("cases/old.wlc/x"); }, 76, "Path not found: " + Stored("cases/old.wlc/x"));
+  chosen = "/dev/full";
+  ExpectRefused([&] { root->SaveAs(); }, 61, "Disk full: \\dev\\full");
+}
+
+TEST_F(Faults, ASaveKeepsLinkAndMode) {
+  fs::permissions(folder / "cases/old.wlc", fs::perms(0640));
+  fs::create_symlink("cases/old.wlc", folder / "link.wlc");
+  SaveAs("link.wlc");
+  EXPECT_TRUE(fs::is_symlink(folder / "link.wlc"));
+  EXPECT_EQ(fs::status(folder / "cases/old.wlc").permissions(), fs::perms(0640));
+  EXPECT_NE(ReadBytes(folder / "cases/old.wlc").find("Description=changed"), std::string::npos);
+  fs::create_symlink("gone.wlc", folder / "dangling.wlc");
+  SaveAs("dangling.wlc");
+  EXPECT_TRUE(fs::is_regular_file(folder / "gone.wlc"));
+}
+
+TEST_F(Faults, AFileThatCannotBeReadRaises) {
+  EXPECT_EQ(RaisedBy([&] { root->OpenExisting("/proc/self/mem"); }).text,
+            "Device I/O error: \\proc\\self\\mem");
+  fs::permissions(folder / "cases/old.wlc", fs::perms(0));
+  {
+    const OrdinaryUser user;
+    EXPECT_EQ(RaisedBy([&] { Open("cases/old.wlc"); }).number, 70);
+  }
+  std::ofstream(folder / "large.wlc");
+  fs::resize_file(folder / "large.wlc", (16u << 20) + 1);
+  EXPECT_EQ(RaisedBy([&] { Open("large.wlc"); }).number, 5);
+  EXPECT_EQ(root->Location(), "");
+}
+
+TEST_F(Faults, ACaseThatWouldNotOpenAgainIsNotSaved) {
+  root->Description(std::string(17u << 20, 'x'));
+  EXPECT_EQ(RaisedBy([&] { root->Save(); }).number, 5);
+  EXPECT_EQ(ReadBytes(folder / "cases/old.wlc"), old);
+}
+
+/// A child that saves two versions in turn, as fast as it can, until it is killed.
+pid_t StartSaving(const std::string& path, const std::string (&versions)[2]) {
+  const pid_t child = ::fork();
+  if (child != 0) return child;
+  for (int round = 0;; ++round) {
+    clsSaveFile file;
+    file.Data("Case", "Filler", "", versions[round % 2]);
+    file.WriteData(path);
+  }
+}
+
+TEST_F(Faults, AKilledSaveLeavesOneOfTheTwoWholeVersions) {
+  const std::string versions[2] = {std::string(700, 'a'), std::string(60000, 'b')};
+  std::string whole[2];
+  const auto start = std::chrono::steady_clock::now();
+  for (int version = 0; version < 2; ++version) {
+    clsSaveFile file;
+    file.Data("Case", "Filler", "", versions[version]);
+    file.WriteData(In("cases/old.wlc"));
+    whole[version] = ReadBytes(folder / "cases/old.wlc");
+  }
+  // The kills fall among some saves, however fast the disk is.
+  const auto twoSaves = std::chrono::steady_clock::now() - start;
+  const auto longest = std::chrono::duration_cast<std::chrono::microseconds>(3 * twoSaves).count() + 1000;
+  std::mt19937 random(5);
+  const int kills = LongTests() ? 1000 : 40;
+  int seen[2] = {0, 0};
+  for (int kill = 0; kill < kills; ++kill) {
+    const pid_t child = StartSaving(In("cases/old.wlc"), versions);
+    ASSERT_GT(child, 0);
+    ::usleep(std::uniform_int_distribution<useconds_t>(0, static_cast<useconds_t>(longest))(random));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    const std::string found = ReadBytes(folder / "cases/old.wlc");
+    ASSERT_TRUE(found == whole[0] || found == whole[1])
+        << "kill " << kill << ", " << found.size() << " bytes";
+    ++seen[found == whole[1] ? 1 : 0];
+  }
+  EXPECT_GT(seen[0], 0);
+  EXPECT_GT(seen[1], 0);
+}
+
+class Corrupt : public CaseTest {
+ protected:
+  /// Opens or raises an error with number and text; anything else is a fault.
+  void Try(const std::string& bytes) {
+    WriteBytes(folder / "corrupt.wlc", bytes);
+    root->IsDirty(false);
+    try {
+      EXPECT_TRUE(Open("corrupt.wlc"));
+    } catch (const Error& error) {
+      EXPECT_NE(error.Number(), 0);
+      EXPECT_STRNE(error.what(), "");
+    }
+  }
+};
+
+TEST_F(Corrupt, EveryFlipAndTruncationOpensOrRaises) {
+  for (const char* name : {"office_manual_results", "site_by_sector"}) {
+    const std::string sample = ReadBytes(fs::path(ORVE_SAMPLE_CASES) / (std::string(name) + ".wlc"));
+    ASSERT_FALSE(sample.empty());
+    std::mt19937 random(7);
+    const std::size_t step = LongTests() ? 1 : 211;
+    for (std::size_t at = 0; at < sample.size(); at += step) {
+      std::string flipped = sample;
+      flipped[at] = static_cast<char>(flipped[at] ^ (1 << random() % 8));
+      Try(flipped);
+      Try(sample.substr(0, at));
+    }
+  }
+}
+
+TEST_F(Corrupt, RubbishOpensOrRaises) {
+  std::mt19937 random(11);
+  for (const std::size_t size : {0, 1, 100, 5000}) {
+    std::string bytes(size, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    Try(bytes);
+  }
+  Try(std::string("\xEF\xBB\xBF[WindLoadCase]\r\nDescription=") + std::string(3, 0) + "\r\n");
+  Try("[WindLoadCase][WindLoadCase]\n\n\n=\r");
+  Try("[BuildingDimensions]\r\nRoof_Height=" + std::string(100000, '9') + "\r\n");
+  Try("[ExternalCoefficients]\r\nManualResults=True\r\n[BuildingDimensions]\r\nRoofType=-7\r\n");
+}
+
+}  // namespace
+}  // namespace orve::test
