@@ -115,7 +115,7 @@ std::string CClassBody(const ClassDescription& description) {
   const std::string name(description.name);
   std::string text = Head(
       "#include \"Records.h\"\n\n"
-      "// The declarations come from the C header.\nusing namespace orve::c;\n");
+      "using namespace orve::c;\n");
   if (description.create != nullptr)
     text += CDeclarations(description).front() +
             " {\n  try {\n    RequireResult(result);\n    GiveObject(result, Create<orve::" + name +

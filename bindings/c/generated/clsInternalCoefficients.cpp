@@ -1,7 +1,6 @@
 // Written by orve_generate from the description of the object model; don't edit it by hand.
 #include "Records.h"
 
-// The declarations come from the C header.
 using namespace orve::c;
 
 orve_error orve_clsInternalCoefficients_get_Face(orve_clsInternalCoefficients object, orve_Faces* result) {
