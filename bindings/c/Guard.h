@@ -62,12 +62,24 @@ const char* StaticText(std::string_view text);
 /// Error 0 is none; any other that a callback returned goes on as an exception.
 void RaiseFromCallback(orve_error number);
 
-inline void Give(bool* result, bool value) { *result = value; }
-inline void Give(std::int16_t* result, std::int16_t value) { *result = value; }
-inline void Give(std::int32_t* result, std::int32_t value) { *result = value; }
-inline void Give(float* result, float value) { *result = value; }
-inline void Give(double* result, double value) { *result = value; }
-inline void Give(char** result, const std::string& value) { *result = NewText(value); }
+inline void Give(bool* result, bool value) {
+  *result = value;
+}
+inline void Give(std::int16_t* result, std::int16_t value) {
+  *result = value;
+}
+inline void Give(std::int32_t* result, std::int32_t value) {
+  *result = value;
+}
+inline void Give(float* result, float value) {
+  *result = value;
+}
+inline void Give(double* result, double value) {
+  *result = value;
+}
+inline void Give(char** result, const std::string& value) {
+  *result = NewText(value);
+}
 template <class Enumeration>
 requires std::is_enum_v<Enumeration>
 void Give(std::int32_t* result, Enumeration value) {
