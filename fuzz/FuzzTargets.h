@@ -1,0 +1,24 @@
+// What the fuzzer feeds and the replay repeats. A target returns; a broken rule ends the program.
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+namespace orve::fuzz {
+
+/// Ends the program if a rule doesn't hold.
+inline void Require(bool holds, const char* rule) {
+  if (holds) return;
+  std::fprintf(stderr, "broken rule: %s\n", rule);
+  std::abort();
+}
+
+/// A case file: it opens or raises an error, and an opened case can be saved and opened again.
+void CaseFile(std::string_view input);
+/// A profile file: a stored value is found again.
+void ProfileFile(std::string_view input);
+/// Texts of numbers, dates and descriptions, and what is read back from them.
+void Texts(std::string_view input);
+
+}  // namespace orve::fuzz
