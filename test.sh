@@ -23,7 +23,7 @@ LOGS="$PWD/build/logs"
 mkdir -p "$LOGS"
 
 PACKAGES=(g++ cmake ninja-build libgtest-dev)
-[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libbenchmark-dev)
+[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libbenchmark-dev python3)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
 check_format() {
@@ -40,25 +40,27 @@ check_installation() {
     "$outside/outside"
 }
 
-check_demo() {
-  ./demo.sh
-}
-
 RELEASE_OPTIONS=()
 if [ $FULL -eq 1 ]; then
   RELEASE_OPTIONS=(-DORVE_CHECK_HEADERS=ON -DORVE_BUILD_BENCH=ON)
-  # The slow tests read this.
+  # Tests that have a long form run it in the release build.
   export ORVE_LONG_TESTS=1
 fi
 
 step "build, release" build_preset release "${RELEASE_OPTIONS[@]}" && test_preset release
+unset ORVE_LONG_TESTS
 step "build, address and undefined-behaviour sanitizers" build_preset debug && test_preset debug
 
 if [ $FULL -eq 1 ]; then
   step "build, clang" build_preset clang && test_preset clang
   step "form of the sources" check_format
   step "installation and an outside program" check_installation
-  step "demo" check_demo
+  step "demo" ./demo.sh
+  step "recalculation of the engines' cases" python3 tests/recalculation/recalculate.py --check
+  step "benchmarks, allocations of a warm sheet" build/release/bench/orve_bench --benchmark_min_time=0.05
+  if [ -x fuzz/run.sh ]; then
+    step "fuzzing" fuzz/run.sh 60
+  fi
 fi
 
 finish
