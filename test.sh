@@ -23,7 +23,7 @@ LOGS="$PWD/build/logs"
 mkdir -p "$LOGS"
 
 PACKAGES=(g++ cmake ninja-build libgtest-dev)
-[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libbenchmark-dev python3)
+[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format git libbenchmark-dev python3)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
 check_format() {
