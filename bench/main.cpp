@@ -13,6 +13,7 @@
 #include <string>
 #include <windspeed/WindSpeedEngine.h>
 
+#include "case_file.h"
 #include "component_log.h"
 #include "engine_calls.h"
 #include "portal_building.h"
@@ -161,6 +162,7 @@ int main(int argc, char** argv) try {
     for (auto _ : state) benchmark::DoNotOptimize(CreateCurrentCase());
   })->Unit(benchmark::kMicrosecond);
   bench::RegisterEngineBenchmarks();
+  bench::RegisterCaseFileBenchmarks();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -15,9 +15,15 @@ failed=0
 fuzz() {
   local program="$1" folder="fuzz/$2" found="$BUILD/corpus/$2"
   mkdir -p "$found" "$folder/findings"
-  echo "fuzzing $2 for $SECONDS_EACH s"
-  "$BUILD/fuzz/$program" -max_total_time="$SECONDS_EACH" -max_len=40000 -timeout=20 -rss_limit_mb=1024 \
-    -artifact_prefix="$folder/findings/" -print_final_stats=1 -verbosity=0 "$found" "$folder/seeds" || failed=1
+  if "$BUILD/fuzz/$program" -max_total_time="$SECONDS_EACH" -max_len=40000 -timeout=20 -rss_limit_mb=1024 \
+    -artifact_prefix="$folder/findings/" -print_final_stats=1 -verbosity=0 "$found" "$folder/seeds" \
+    >"$BUILD/$2.log" 2>&1; then
+    echo "$2: no findings, $(sed -n 's/^stat::number_of_executed_units: *//p' "$BUILD/$2.log") inputs"
+  else
+    tail -n 40 "$BUILD/$2.log"
+    echo "$2: failed, see $BUILD/$2.log"
+    failed=1
+  fi
   rmdir --ignore-fail-on-non-empty "$folder/findings"
 }
 fuzz fuzz_CaseFile case_file

@@ -3,26 +3,19 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <type_traits>
 
+#include "common/FileLayerParts.h"
 #include "common/Host.h"
 #include "common/LetterCase.h"
 #include "common/NumberText.h"
+#include "common/TextEncoding.h"
 
 namespace orve {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-// Paths are UTF-8 inside, whatever the machine's own encoding is.
-fs::path FromText(const std::string& text) {
-  return fs::path(std::u8string(text.begin(), text.end()));
-}
-
-std::string ToText(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
-}
 
 bool NameExists(const fs::path& path) {
   std::error_code failure;
@@ -37,7 +30,7 @@ fs::path NameInAnotherCase(const fs::path& folder, const std::string& wanted) {
   for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, failure), end;
        !failure && at != end; at.increment(failure)) {
     const fs::path name = at->path().filename();
-    if (UpperCase(TrimBlanks(ToText(name))) != upper) continue;
+    if (UpperCase(TrimBlanks(PathText(name))) != upper) continue;
     if (!found.empty()) return {};
     found = name;
   }
@@ -48,11 +41,43 @@ fs::path NameInAnotherCase(const fs::path& folder, const std::string& wanted) {
 template <class Test>
 bool Holds(const std::string& path, Test test) {
   std::error_code failure;
-  const fs::file_status status = fs::status(FromText(NativePath(path)), failure);
+  const fs::file_status status = fs::status(TextPath(NativePath(path)), failure);
   return !failure && test(status);
 }
 
 }  // namespace
+
+// Paths are UTF-8 inside, whatever the machine's own encoding is. Where it isn't bytes, they must convert.
+fs::path TextPath(const std::string& text) {
+  constexpr bool bytes = std::is_same_v<fs::path::value_type, char>;
+  const std::string path = bytes ? text : ToUtf8(text);
+  return fs::path(std::u8string(path.begin(), path.end()));
+}
+
+std::string PathText(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
+void RaiseFileError(ErrorNumber number, const std::string& path) {
+  const char* text = "Path/File access error";
+  if (number == ErrorNumber::FileNotFound) text = "File not found";
+  if (number == ErrorNumber::DeviceIO) text = "Device I/O error";
+  if (number == ErrorNumber::DiskFull) text = "Disk full";
+  if (number == ErrorNumber::PermissionDenied) text = "Permission denied";
+  if (number == ErrorNumber::PathNotFound) text = "Path not found";
+  throw Error(number, std::string(text).append(": ").append(StoredPath(path)));
+}
+
+void RefuseLargeFile(std::size_t size, const std::string& path) {
+  if (size > LargestFile)
+    throw Error(ErrorNumber::InvalidArgument, "The file is larger than 16 MB: " + StoredPath(path));
+}
+
+fs::path UsableNativePath(const std::string& path) {
+  if (path.empty() || path.find('\0') != std::string::npos) RaiseFileError(ErrorNumber::PathFileAccess, path);
+  return TextPath(NativePath(path));
+}
 
 std::string StoredPath(std::string path) {
   std::replace(path.begin(), path.end(), '/', '\\');
@@ -67,21 +92,21 @@ std::string ParentFolder(const std::string& storedPath) {
 std::string NativePath(const std::string& path) {
   std::string text = path;
   std::replace(text.begin(), text.end(), '\\', '/');
-  const fs::path whole = FromText(text);
-  if (NameExists(whole)) return ToText(fs::path(whole).make_preferred());
+  const fs::path whole = TextPath(text);
+  if (NameExists(whole)) return PathText(fs::path(whole).make_preferred());
 
   fs::path resolved = whole.root_path();
   bool found = true;
   for (const fs::path& part : whole.relative_path()) {
     if (found && !NameExists(resolved / part)) {
-      const fs::path name = NameInAnotherCase(resolved, ToText(part));
+      const fs::path name = NameInAnotherCase(resolved, PathText(part));
       found = !name.empty();
       resolved /= found ? name : part;
     } else {
       resolved /= part;
     }
   }
-  return ToText(resolved.make_preferred());
+  return PathText(resolved.make_preferred());
 }
 
 bool IsPlainFile(const std::string& path) {

@@ -12,6 +12,7 @@
 
 #include "common/Error.h"
 #include "common/FileLayer.h"
+#include "common/FileLayerParts.h"
 #include "common/Host.h"
 
 namespace orve {
@@ -41,39 +42,31 @@ bool FolderExists(const fs::path& file) {
   return folder.empty() || fs::is_directory(folder, failure);
 }
 
-std::pair<ErrorNumber, const char*> NumberAndText(int cause, const fs::path& native) {
+ErrorNumber NumberOf(int cause, const fs::path& native) {
   switch (cause) {
     case ENOENT:
-      if (FolderExists(native)) return {ErrorNumber::FileNotFound, "File not found"};
-      return {ErrorNumber::PathNotFound, "Path not found"};
+      return FolderExists(native) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
     case ENOTDIR:
-      return {ErrorNumber::PathNotFound, "Path not found"};
+      return ErrorNumber::PathNotFound;
     case EACCES:
     case EPERM:
     case EROFS:
     case ETXTBSY:
-      return {ErrorNumber::PermissionDenied, "Permission denied"};
+      return ErrorNumber::PermissionDenied;
     case ENOSPC:
     case EDQUOT:
     case EFBIG:
-      return {ErrorNumber::DiskFull, "Disk full"};
+      return ErrorNumber::DiskFull;
     case EIO:
     case ENXIO:
-      return {ErrorNumber::DeviceIO, "Device I/O error"};
+      return ErrorNumber::DeviceIO;
     default:
-      return {ErrorNumber::PathFileAccess, "Path/File access error"};
+      return ErrorNumber::PathFileAccess;
   }
 }
 
 [[noreturn]] void Raise(int cause, const std::string& path, const fs::path& native) {
-  const auto [number, text] = NumberAndText(cause, native);
-  throw Error(number, std::string(text) + ": " + StoredPath(path));
-}
-
-// A name with a zero byte would reach the system cut short.
-fs::path CheckedNativePath(const std::string& path) {
-  if (path.empty() || path.find('\0') != std::string::npos) Raise(EINVAL, path, {});
-  return NativePath(path);
+  RaiseFileError(NumberOf(cause, native), path);
 }
 
 template <class Call>
@@ -182,16 +175,12 @@ bool FolderForbids(int cause) {
 }  // namespace
 
 std::string ReadWholeFile(const std::string& path) {
-  const fs::path native = CheckedNativePath(path);
+  const fs::path native = UsableNativePath(path);
   const Descriptor fd(::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};
   if (!fd || ::fstat(fd.Get(), &status) != 0) Raise(errno, path, native);
   if (S_ISDIR(status.st_mode)) Raise(EISDIR, path, native);
-  const auto refuseLarge = [&path](std::size_t size) {
-    if (size > LargestFile)
-      throw Error(ErrorNumber::InvalidArgument, "The file is larger than 16 MB: " + StoredPath(path));
-  };
-  refuseLarge(static_cast<std::size_t>(std::max<off_t>(status.st_size, 0)));
+  RefuseLargeFile(static_cast<std::size_t>(std::max<off_t>(status.st_size, 0)), path);
 
   // One byte more than the file seems to hold, so that its end is seen in the same pass.
   std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
@@ -202,7 +191,7 @@ std::string ReadWholeFile(const std::string& path) {
     if (got < 0) Raise(errno, path, native);
     if (got == 0) break;
     length += static_cast<std::size_t>(got);
-    refuseLarge(length);
+    RefuseLargeFile(length, path);
     if (length == content.size()) content.resize(content.size() * 2);
   }
   content.resize(length);
@@ -210,7 +199,7 @@ std::string ReadWholeFile(const std::string& path) {
 }
 
 void WriteWholeFile(const std::string& path, std::string_view content, Durability durability) {
-  const fs::path target = FollowLinks(CheckedNativePath(path));
+  const fs::path target = FollowLinks(UsableNativePath(path));
   // The target itself is opened first, uncut, so that a protected file is refused whatever its folder allows.
   Descriptor present(::open(target.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};

@@ -1,0 +1,178 @@
+// The file layer on Windows.
+#define WIN32_LEAN_AND_MEAN
+#define NOMINMAX
+#include <algorithm>
+#include <atomic>
+#include <utility>
+#include <windows.h>
+
+#include "common/DateText.h"
+#include "common/FileLayer.h"
+#include "common/FileLayerParts.h"
+
+namespace orve {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileHandle {
+ public:
+  explicit FileHandle(HANDLE handle) : m_handle(handle) {}
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  ~FileHandle() { Close(); }
+
+  explicit operator bool() const { return m_handle != INVALID_HANDLE_VALUE; }
+  HANDLE Get() const { return m_handle; }
+  void Close() {
+    if (m_handle != INVALID_HANDLE_VALUE) ::CloseHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE));
+  }
+
+ private:
+  HANDLE m_handle;
+};
+
+HANDLE Open(const fs::path& path, DWORD access, DWORD creation) {
+  return ::CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, creation,
+                       FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+ErrorNumber NumberOf(DWORD cause, const fs::path& native) {
+  std::error_code failure;
+  switch (cause) {
+    case ERROR_FILE_NOT_FOUND:
+      return fs::is_directory(native.parent_path(), failure) ? ErrorNumber::FileNotFound
+                                                             : ErrorNumber::PathNotFound;
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_BAD_NETPATH:
+    case ERROR_DIRECTORY:
+      return ErrorNumber::PathNotFound;
+    case ERROR_ACCESS_DENIED:
+      return fs::is_directory(native, failure) ? ErrorNumber::PathFileAccess : ErrorNumber::PermissionDenied;
+    case ERROR_WRITE_PROTECT:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+      return ErrorNumber::PermissionDenied;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+      return ErrorNumber::DiskFull;
+    case ERROR_CRC:
+    case ERROR_GEN_FAILURE:
+    case ERROR_IO_DEVICE:
+    case ERROR_READ_FAULT:
+    case ERROR_WRITE_FAULT:
+      return ErrorNumber::DeviceIO;
+    default:
+      return ErrorNumber::PathFileAccess;
+  }
+}
+
+[[noreturn]] void Raise(DWORD cause, const std::string& path, const fs::path& native) {
+  RaiseFileError(NumberOf(cause, native), path);
+}
+
+/// ERROR_SUCCESS, or the error that stopped the writing.
+DWORD WriteAll(HANDLE handle, std::string_view content, Durability durability) {
+  while (!content.empty()) {
+    const auto part = static_cast<DWORD>(std::min<std::size_t>(content.size(), 1u << 20));
+    DWORD written = 0;
+    if (!::WriteFile(handle, content.data(), part, &written, nullptr)) return ::GetLastError();
+    content.remove_prefix(written);
+  }
+  if (durability == Durability::Flushed && !::FlushFileBuffers(handle)) return ::GetLastError();
+  return ERROR_SUCCESS;
+}
+
+fs::path TemporaryName(const fs::path& target) {
+  static std::atomic<unsigned> counter{0};
+  const std::string name =
+      ".orve-" + std::to_string(::GetCurrentProcessId()) + "-" + std::to_string(counter++) + ".tmp";
+  return target.parent_path() / name;
+}
+
+DWORD WriteTemporary(const fs::path& path, std::string_view content, Durability durability) {
+  const FileHandle handle(Open(path, GENERIC_WRITE, CREATE_NEW));
+  return handle ? WriteAll(handle.Get(), content, durability) : ::GetLastError();
+}
+
+DWORD WriteInPlace(const fs::path& target, std::string_view content, Durability durability) {
+  const FileHandle handle(Open(target, GENERIC_WRITE, OPEN_EXISTING));
+  if (!handle) return ::GetLastError();
+  const DWORD cause = WriteAll(handle.Get(), content, durability);
+  if (cause != ERROR_SUCCESS) return cause;
+  return ::SetEndOfFile(handle.Get()) ? ERROR_SUCCESS : ::GetLastError();
+}
+
+/// Puts the temporary file in the target's place, with the target's attributes if there is one.
+DWORD Replace(const fs::path& target, const fs::path& temporary, bool present) {
+  const BOOL done = present ? ::ReplaceFileW(target.c_str(), temporary.c_str(), nullptr,
+                                             REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
+                            : ::MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+  return done ? ERROR_SUCCESS : ::GetLastError();
+}
+
+}  // namespace
+
+std::string ReadWholeFile(const std::string& path) {
+  const fs::path native = UsableNativePath(path);
+  const FileHandle handle(::CreateFileW(native.c_str(), GENERIC_READ,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  LARGE_INTEGER size{};
+  if (!handle || !::GetFileSizeEx(handle.Get(), &size)) Raise(::GetLastError(), path, native);
+  RefuseLargeFile(static_cast<std::size_t>(size.QuadPart), path);
+  std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
+  std::size_t length = 0;
+  while (length < content.size()) {
+    DWORD got = 0;
+    if (!::ReadFile(handle.Get(), content.data() + length, static_cast<DWORD>(content.size() - length), &got,
+                    nullptr))
+      Raise(::GetLastError(), path, native);
+    if (got == 0) break;
+    length += got;
+  }
+  content.resize(length);
+  return content;
+}
+
+void WriteWholeFile(const std::string& path, std::string_view content, Durability durability) {
+  std::error_code failure;
+  fs::path target = UsableNativePath(path);
+  if (fs::is_symlink(target, failure)) target = fs::weakly_canonical(target, failure);
+  FileHandle probe(Open(target, GENERIC_WRITE, OPEN_EXISTING));
+  const bool present = static_cast<bool>(probe);
+  if (!present && ::GetLastError() != ERROR_FILE_NOT_FOUND) Raise(::GetLastError(), path, target);
+  probe.Close();
+
+  const fs::path temporary = TemporaryName(target);
+  DWORD cause = WriteTemporary(temporary, content, durability);
+  const bool folderForbids = present && cause == ERROR_ACCESS_DENIED;
+  if (cause == ERROR_SUCCESS) cause = Replace(target, temporary, present);
+  if (cause != ERROR_SUCCESS) ::DeleteFileW(temporary.c_str());
+  if (folderForbids) cause = WriteInPlace(target, content, durability);
+  if (cause != ERROR_SUCCESS) Raise(cause, path, target);
+}
+
+bool TruncateFile(const std::string& path, std::size_t length) {
+  if (path.empty() || path.find('\0') != std::string::npos) return false;
+  const FileHandle handle(Open(UsableNativePath(path), GENERIC_WRITE, OPEN_EXISTING));
+  LARGE_INTEGER end{};
+  end.QuadPart = static_cast<LONGLONG>(length);
+  return handle && ::SetFilePointerEx(handle.Get(), end, nullptr, FILE_BEGIN) && ::SetEndOfFile(handle.Get());
+}
+
+std::string ProgramFolder() {
+  std::wstring path(32768, L'\0');
+  path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return PathText(fs::path(path).parent_path());
+}
+
+double LocalTime() {
+  SYSTEMTIME now{};
+  ::GetLocalTime(&now);
+  return ToOleDate({now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond});
+}
+
+}  // namespace orve
