@@ -1,0 +1,20 @@
+// The commands. Each prints to the standard output and gives its exit code; faults are thrown as `Failure` or
+// `orve::Error`.
+#pragma once
+
+#include "Failure.h"
+#include "Options.h"
+
+namespace windcase {
+
+ExitCode RunNew(const Options& options);
+ExitCode RunSet(const Options& options);
+ExitCode RunShow(const Options& options);
+ExitCode RunLoads(const Options& options);
+ExitCode RunExplain(const Options& options);
+ExitCode RunCompare(const Options& options);
+ExitCode RunCheck(const Options& options);
+ExitCode RunRecent(const Options& options);
+ExitCode RunBatch(const Options& options);
+
+}  // namespace windcase

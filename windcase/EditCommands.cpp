@@ -1,0 +1,90 @@
+// Making, changing and showing a case.
+#include <Explain.h>
+#include <iostream>
+#include <orve3_bs6399_2.h>
+
+#include "Commands.h"
+#include "Inputs.h"
+#include "Records.h"
+#include "Settings.h"
+#include "TextTable.h"
+
+namespace windcase {
+
+namespace {
+
+// Makes the assignments and tells what they changed. Nothing is saved unless every one holds.
+std::string AssignAll(OpenCase& windCase, const std::vector<std::string>& assignments, bool newCase) {
+  const Inputs inputs(*windCase);
+  std::string told;
+  for (const std::string& text : assignments) {
+    const Assignment assignment = ParseAssignment(text);
+    const std::vector<Input> found = inputs.Find(assignment.key);
+    const std::string before = inputs.Read(found.front());
+    for (const Input& input : found) inputs.Assign(input, assignment.value, newCase);
+    const std::string after = inputs.Read(found.front());
+    told += assignment.key.Text(true) + ": ";
+    told +=
+        found.size() == 1 ? before + " -> " + after : std::to_string(found.size()) + " values, now " + after;
+    told += "\n";
+  }
+  return told;
+}
+
+void WarnOfCase() {
+  for (const std::string& warning : orve::explain::CaseWarnings())
+    std::cout << "warning: " << warning << "\n";
+}
+
+}  // namespace
+
+ExitCode RunNew(const Options& options) {
+  std::filesystem::path path = options.file;
+  if (path.extension().empty()) path += ".wlc";
+  if (!options.force && std::filesystem::exists(path))
+    throw Failure(ExitCode::File, path.string() + " is there already; --force writes over it");
+  OpenCase windCase(UserSettingsFolder());
+  const std::string told = AssignAll(windCase, options.assignments, true);
+  windCase.SaveAs(path.string());
+  std::cout << told << path.string() << " is made\n";
+  WarnOfCase();
+  return ExitCode::Done;
+}
+
+ExitCode RunSet(const Options& options) {
+  OpenCase windCase(UserSettingsFolder());
+  windCase.Open(options.file);
+  const std::string told = AssignAll(windCase, options.assignments, false);
+  windCase->Save();
+  std::cout << told;
+  WarnOfCase();
+  return ExitCode::Done;
+}
+
+ExitCode RunShow(const Options& options) {
+  const PrivateFolder folder;
+  OpenCase windCase(folder.Path());
+  windCase.Open(options.file);
+  const std::vector<InputKey> keys = StoredKeys(windCase, folder.Path());
+  std::vector<InputText> values = ReadInputs(windCase, keys);
+  const Inputs inputs(*windCase);
+  if (options.changed) {
+    windCase->Clear();
+    const std::vector<InputText> ofNewCase = ReadInputs(windCase, keys);
+    for (std::size_t i = values.size(); i-- > 0;)
+      if (values[i] == ofNewCase[i]) values.erase(values.begin() + static_cast<std::ptrdiff_t>(i));
+  }
+  if (options.json) {
+    std::cout << InputsJson(values);
+    return ExitCode::Done;
+  }
+  TextTable table({"Input", "Value", "Unit", "Meaning"});
+  for (const auto& [key, value] : values) {
+    const auto& member = *inputs.Find(ParseKey(key)).front().member;
+    table.Add({key, value, std::string(member.unit), std::string(member.help)});
+  }
+  table.Print(std::cout);
+  return ExitCode::Done;
+}
+
+}  // namespace windcase

@@ -1,0 +1,153 @@
+#include "JsonText.h"
+
+#include <nlohmann/json.hpp>
+
+#include "Failure.h"
+#include "common/NumberText.h"
+
+namespace windcase {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using orve::explain::Quantity;
+
+// The number that the value's own decimal text stands for, so that a 32-bit 0.31 is written as 0.31.
+Json NumberOf(float value) {
+  return orve::TextToDouble(orve::ShortestText(value));
+}
+
+Json LoadOf(const ZoneLoads& zone) {
+  Json json{{"area", zone.area}, {"face", zone.face}, {"zone", zone.zone}, {"dimensions", zone.dimensions}};
+  if (!zone.fault.empty()) {
+    json["fault"] = zone.fault;
+    return json;
+  }
+  json["external"] = zone.external;
+  json["internal"] = zone.internal;
+  json["overall"] = zone.overall;
+  json["pressure"] = NumberOf(zone.pressure);
+  json["suction"] = NumberOf(zone.suction);
+  return json;
+}
+
+ZoneLoads ZoneOf(const Json& json) {
+  ZoneLoads zone;
+  zone.area = json.at("area");
+  zone.face = json.at("face");
+  zone.zone = json.at("zone");
+  zone.dimensions = json.at("dimensions");
+  zone.fault = json.value("fault", "");
+  if (!zone.fault.empty()) return zone;
+  zone.external = json.at("external");
+  zone.internal = json.at("internal");
+  zone.overall = json.at("overall");
+  zone.pressure = json.at("pressure");
+  zone.suction = json.at("suction");
+  return zone;
+}
+
+Json LoadsOf(const std::vector<ZoneLoads>& loads) {
+  Json json = Json::array();
+  for (const ZoneLoads& zone : loads) json.push_back(LoadOf(zone));
+  return json;
+}
+
+Json InputsOf(const std::vector<InputText>& inputs) {
+  Json json = Json::object();
+  for (const auto& [key, value] : inputs) json[key] = value;
+  return json;
+}
+
+Json SourceOf(const orve::SourceRecord& source) {
+  Json json{{"standard", source.standard},
+            {"edition", source.edition},
+            {"table", source.table},
+            {"item", source.item},
+            {"status", std::string(SourceStatusText(source.status))}};
+  for (const orve::SourceAxis& axis : source.axes)
+    json["axes"].push_back({{"name", axis.name},
+                            {"unit", axis.unit},
+                            {"low", axis.low},
+                            {"high", axis.high},
+                            {"fraction", axis.fraction}});
+  if (!source.corners.empty()) json["corners"] = source.corners;
+  if (!source.note.empty()) json["note"] = source.note;
+  return json;
+}
+
+// A quantity below several others is written once; then only its number is.
+class TreeWriter {
+ public:
+  Json Write(const Quantity& quantity) {
+    const auto [place, isNew] = m_numbers.emplace(&quantity, m_numbers.size() + 1);
+    if (!isNew) return {{"see", place->second}, {"symbol", quantity.symbol}};
+    Json json{{"id", place->second}, {"symbol", quantity.symbol}, {"name", quantity.name}};
+    if (quantity.value) json["value"] = NumberOf(static_cast<float>(*quantity.value));
+    const auto add = [&json](const char* key, const std::string& text) {
+      if (!text.empty()) json[key] = text;
+    };
+    add("unit", quantity.unit);
+    add("text", quantity.text);
+    add("formula", quantity.formula);
+    add("numbers", quantity.numbers);
+    add("note", quantity.note);
+    add("clause", quantity.clause);
+    if (quantity.layer == orve::explain::Layer::Input) json["input"] = true;
+    if (quantity.source) json["source"] = SourceOf(*quantity.source);
+    if (!quantity.warnings.empty()) json["warnings"] = quantity.warnings;
+    for (const auto& child : quantity.children) json["children"].push_back(Write(*child));
+    return json;
+  }
+
+ private:
+  std::map<const Quantity*, std::size_t> m_numbers;
+};
+
+std::string TextOf(const Json& json) {
+  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace
+
+std::string InputsJson(const std::vector<InputText>& inputs) {
+  return TextOf(InputsOf(inputs));
+}
+
+std::string LoadsJson(const std::vector<ZoneLoads>& loads, const std::vector<std::string>& warnings) {
+  return TextOf({{"unit", "kN/m\u00B2"}, {"loads", LoadsOf(loads)}, {"warnings", warnings}});
+}
+
+std::string TreeJson(const Quantity& tree) {
+  return TextOf(TreeWriter().Write(tree));
+}
+
+std::string RecentJson(const std::vector<RecentCase>& cases) {
+  Json json = Json::array();
+  for (const RecentCase& recent : cases)
+    json.push_back({{"location", recent.location},
+                    {"isThere", recent.isThere},
+                    {"description", recent.description},
+                    {"modified", recent.modified}});
+  return TextOf(json);
+}
+
+std::string RecordJson(const CaseRecord& record) {
+  return TextOf(
+      {{"version", record.version}, {"inputs", InputsOf(record.inputs)}, {"loads", LoadsOf(record.loads)}});
+}
+
+CaseRecord RecordOf(const std::string& text, const std::string& name) {
+  try {
+    const Json json = Json::parse(text);
+    CaseRecord record;
+    record.version = json.at("version");
+    for (const auto& [key, value] : json.at("inputs").items()) record.inputs.emplace_back(key, value);
+    for (const Json& zone : json.at("loads")) record.loads.push_back(ZoneOf(zone));
+    return record;
+  } catch (const Json::exception& error) {
+    throw Failure(ExitCode::File, name + " isn't a file of stored results: " + error.what());
+  }
+}
+
+}  // namespace windcase

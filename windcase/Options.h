@@ -1,0 +1,28 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace windcase {
+
+enum class Command { New, Show, Set, Loads, Explain, Compare, Recent, Check, Batch };
+
+struct Options {
+  Command command = Command::Show;
+  std::string file;                      ///< The case; the folder of `Batch`.
+  std::string other;                     ///< The second case of `Compare`.
+  std::vector<std::string> assignments;  ///< KEY=VALUE.
+  std::string area;                      ///< As typed; empty for all.
+  std::string face;
+  std::string zone;
+  std::string results;  ///< Stored results of `Check`, results folder of `Batch`; empty for the default.
+  int depth = 0;        ///< Levels of a tree that are shown; 0 for all.
+  int jobs = 0;         ///< Worker processes; 0 for one per core.
+  bool json = false;
+  bool force = false;    ///< Write over an existing file.
+  bool changed = false;  ///< Show only what differs from a new case.
+  bool store = false;    ///< Store the results instead of comparing.
+};
+
+}  // namespace windcase
