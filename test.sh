@@ -22,7 +22,7 @@ done
 LOGS="$PWD/build/logs"
 mkdir -p "$LOGS"
 
-PACKAGES=(g++ cmake ninja-build libgtest-dev)
+PACKAGES=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
 [ $FULL -eq 1 ] && PACKAGES+=(clang clang-format git libbenchmark-dev python3)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
