@@ -5,6 +5,7 @@
 #include "common/clsCommon.h"
 #include "core/CaseObjects.h"
 #include "core/Marks.h"
+#include "core/Ranges.h"
 #include "external/BreCpX.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
@@ -16,10 +17,6 @@ namespace {
 
 constexpr double SecondBayFactor = 0.8;      // Table 12.
 constexpr double RemainingBaysFactor = 0.6;  // Table 12.
-
-bool IsRoofOrWalls(BuildingAreas area) {
-  return area == BuildingAreas::baRoof || area == BuildingAreas::baWalls;
-}
 
 double BayFactor(Bays bay) {
   switch (bay) {

@@ -1,14 +1,10 @@
 #include "external/WindFace.h"
 
+#include "core/Ranges.h"
+
 namespace orve {
 
 namespace {
-
-constexpr int FaceCount = 4;
-
-bool IsFace(Faces face) {
-  return static_cast<std::int32_t>(face) >= 0 && static_cast<std::int32_t>(face) < FaceCount;
-}
 
 std::int16_t Opposite(Faces face) {
   return static_cast<std::int16_t>((static_cast<std::int32_t>(face) + 2) % FaceCount);

@@ -2,6 +2,7 @@
 
 #include "common/Narrow.h"
 #include "common/clsCommon.h"
+#include "core/Ranges.h"
 #include "core/basBS6399_2.h"
 #include "sitewind/clsDynamicPressure.h"
 
@@ -9,7 +10,6 @@ namespace orve {
 
 namespace {
 
-constexpr int SectorCount = 12;
 constexpr float SectorWidth = 30;
 constexpr float HalfWindow = 45;
 
@@ -61,11 +61,12 @@ class Walk {
 };
 
 void WalkAllSectors(Walk& walk) {
-  for (std::int16_t sector = 0; sector < SectorCount; ++sector) walk.TakeSector(sector, sector * SectorWidth);
+  for (std::int16_t sector = 0; sector < WindSectorCount; ++sector)
+    walk.TakeSector(sector, sector * SectorWidth);
 }
 
 std::int16_t Neighbour(std::int16_t sector, int step) {
-  return static_cast<std::int16_t>((sector + step + SectorCount) % SectorCount);
+  return static_cast<std::int16_t>((sector + step + WindSectorCount) % WindSectorCount);
 }
 
 void WalkWindow(Walk& walk, float normal) {

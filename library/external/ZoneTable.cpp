@@ -6,6 +6,7 @@
 #include "common/Narrow.h"
 #include "core/CaseObjects.h"
 #include "core/Marks.h"
+#include "core/Ranges.h"
 #include "external/BreCpX.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
@@ -76,9 +77,6 @@ float RoofDimH(const clsBuildingDimensions& building, const Shape& shape) {
 
 int FaceNumber(Faces face) {
   return static_cast<std::int32_t>(face);
-}
-bool IsFace(Faces face) {
-  return FaceNumber(face) >= 0 && FaceNumber(face) <= 3;
 }
 bool IsFace1Or3(Faces face) {
   return face == Faces::Face_1 || face == Faces::Face_3;

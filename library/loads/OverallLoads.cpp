@@ -8,6 +8,7 @@
 #include "common/clsCommon.h"
 #include "core/CaseObjects.h"
 #include "core/Marks.h"
+#include "core/Ranges.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "internal/clsInternalCoefficients.h"
@@ -67,10 +68,6 @@ float RoofOrWallLoad(BuildingAreas area, Faces face, std::int16_t zone, Beats be
   const auto windFace = static_cast<Faces>(external->Hybrid_WindFromFace(area, face, zone));
   const Terms inside = InternalTerms(*CaseInternalCoefficients(), windFace);
   return WorstDifference(outside, inside, beats);
-}
-
-bool IsRoofOrWalls(BuildingAreas area) {
-  return area == BuildingAreas::baRoof || area == BuildingAreas::baWalls;
 }
 
 std::shared_ptr<clsExternalCoefficients> External() {

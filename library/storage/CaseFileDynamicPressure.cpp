@@ -1,4 +1,5 @@
 // Section [DynamicPressure] of the case file.
+#include "core/Ranges.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "sitewind/clsDynamicPressure.h"
@@ -9,7 +10,6 @@ namespace orve {
 namespace {
 
 constexpr const char* Section = "DynamicPressure";
-constexpr std::int32_t SectorCount = 12;
 
 using D = clsDynamicPressure;
 
@@ -39,7 +39,7 @@ void DescribeManualResults(CaseSection& section, D& site) {
           [&, a = area](float value) { (site.*set)(a, sector, value); });
     }
   };
-  for (std::int32_t index = 0; index < SectorCount; ++index) {
+  for (std::int32_t index = 0; index < WindSectorCount; ++index) {
     const auto sector = WindSectors(index);
     keys("DynamicPressure_q", sector, &D::DynamicPressure_q, &D::DynamicPressure_q);
     keys("SizeEffectFactor_Ca", sector, &D::SizeEffectFactor_Ca, &D::SizeEffectFactor_Ca);
@@ -47,7 +47,7 @@ void DescribeManualResults(CaseSection& section, D& site) {
 }
 
 void DescribeSectors(CaseSection& section, D& site) {
-  for (std::int32_t index = 0; index < SectorCount; ++index) {
+  for (std::int32_t index = 0; index < WindSectorCount; ++index) {
     const auto sector = WindSectors(index);
     const auto key = [&](const char* name, SectorGet get, SectorSet set) {
       section.Key(

@@ -1,4 +1,5 @@
 // Section [ExternalCoefficients] of the case file.
+#include "core/Ranges.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "external/clsExternalCoefficients.h"
@@ -9,8 +10,6 @@ namespace orve {
 namespace {
 
 constexpr const char* Section = "ExternalCoefficients";
-constexpr std::int32_t AreaCount = 3;
-constexpr std::int32_t FaceCount = 4;
 
 using E = clsExternalCoefficients;
 using ZoneGet = float (E::*)(BuildingAreas, Faces, std::int16_t);
@@ -30,7 +29,7 @@ void DescribeZone(CaseSection& section, E& external, BuildingAreas area, Faces f
 }
 
 void DescribeManualResults(CaseSection& section, E& external) {
-  for (std::int32_t area = 0; area < AreaCount; ++area)
+  for (std::int32_t area = 0; area < BuildingAreaCount; ++area)
     for (std::int32_t face = 0; face < FaceCount; ++face) {
       const std::int32_t from = external.ZoneIndexFrom(BuildingAreas(area), Faces(face));
       const std::int32_t to = external.ZoneIndexTo(BuildingAreas(area), Faces(face));

@@ -1,4 +1,5 @@
 // Section [InternalCoefficients] of the case file.
+#include "core/Ranges.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "internal/clsInternalCoefficients.h"
@@ -9,7 +10,6 @@ namespace orve {
 namespace {
 
 constexpr const char* Section = "InternalCoefficients";
-constexpr std::int32_t FaceCount = 4;
 
 using I = clsInternalCoefficients;
 

@@ -1,4 +1,5 @@
 // Section [OverallAppliedLoads] of the case file.
+#include "core/Ranges.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "loads/clsOverallAppliedLoads.h"
@@ -9,8 +10,6 @@ namespace orve {
 namespace {
 
 constexpr const char* Section = "OverallAppliedLoads";
-constexpr std::int32_t AreaCount = 3;
-constexpr std::int32_t FaceCount = 4;
 
 using L = clsOverallAppliedLoads;
 
@@ -40,7 +39,7 @@ void DescribeFace(CaseSection& section, L& loads, BuildingAreas area, Faces face
 }
 
 void Describe(CaseSection& section, L& loads) {
-  for (std::int32_t area = 0; area < AreaCount; ++area)
+  for (std::int32_t area = 0; area < BuildingAreaCount; ++area)
     for (std::int32_t face = 0; face < FaceCount; ++face)
       DescribeFace(section, loads, BuildingAreas(area), Faces(face));
 }
