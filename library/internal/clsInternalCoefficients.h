@@ -56,7 +56,7 @@ class clsInternalCoefficients : public std::enable_shared_from_this<clsInternalC
   /// Zone position for `DominantOpening_ZoneDescription`. Plain storage.
   std::int16_t DominantOpening_ZoneIndex() const { return m_DominantOpening_ZoneIndex; }
   void DominantOpening_ZoneIndex(std::int16_t value) { m_DominantOpening_ZoneIndex = value; }
-  /// First and last wall zone of a face, and a zone's name; `zoneIndex` -1 means `DominantOpening_ZoneIndex`.
+  /// First and last wall zone (-1: none); a zone's name, -1 meaning `DominantOpening_ZoneIndex`. Errors: 9.
   std::int16_t DominantOpening_ZoneIndexFrom(Faces face = Faces(-1)) const;
   std::int16_t DominantOpening_ZoneIndexTo(Faces face = Faces(-1)) const;
   std::string DominantOpening_ZoneDescription(Faces face = Faces(-1), std::int16_t zoneIndex = -1) const;

@@ -188,12 +188,12 @@ TEST_F(CantileverSearch, FindsNothingWithoutAZoneAndKeepsTheIndices) {
   Loads().CantileverZoneIndexTo(7);
   EXPECT_FALSE(Search(Faces::Face_1)) << "hipped roof";
   EXPECT_TRUE(Loads().GetCantileverZones().empty());
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().CantileverZoneDescription(0); }), 9);
+  EXPECT_EQ(ErrorOf([&] { Loads().CantileverZoneDescription(0); }), 9);
   EXPECT_FALSE(Loads().CantileverValues(Walls, Faces::Face_1)) << "walls";
   EXPECT_EQ(Loads().GetCantileverZones().size(), 1u) << "the blank row stays";
   EXPECT_EQ(Loads().Cantilever_OverallAppliedLoads(0), "");
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().CantileverZoneDescription(-1); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().CantileverZoneDescription(1); }), 9);
+  EXPECT_EQ(ErrorOf([&] { Loads().CantileverZoneDescription(-1); }), 9);
+  EXPECT_EQ(ErrorOf([&] { Loads().CantileverZoneDescription(1); }), 9);
   Building().RoofType(Flat);
   Building().CantileverFace1Or2_Length(0);
   Building().CantileverFace3Or4_Length(-1);
@@ -240,7 +240,7 @@ TEST_F(CantileverSearch, LeavesTheTablesAsTheyStandOnAFailure) {
     Loads().CantileverZoneIndexFrom(3);
     Loads().CantileverZoneIndexTo(7);
     each.Spoil(*this);
-    EXPECT_EQ(ErrorNumberOf([&] { Search(Faces::Face_1, true); }), each.Number);
+    EXPECT_EQ(ErrorOf([&] { Search(Faces::Face_1, true); }), each.Number);
     const auto zones = Loads().GetCantileverZones();
     ASSERT_EQ(zones.size(), each.Rows);
     EXPECT_NE(zones.back().Cantilever_ZoneDescription, "");
@@ -260,7 +260,7 @@ TEST_F(CantileverSearch, GathersResultsOverTheFaces) {
   Cpe(Roof, Faces::Face_2, 1, 0, 0.3f);
   Record.Wall2_Windward.Zone_ExternalPressures = "+0.300 kN/m²";
   Building().CantileverFace3Or4_Length(0);
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().TrimCantileverResults(); }), 9);
+  EXPECT_EQ(ErrorOf([&] { Loads().TrimCantileverResults(); }), 9);
   Loads().ResetCantileverResults();
   for (const auto face : {Faces::Face_2, Faces::Face_4}) EXPECT_TRUE(Search(face, true));
   EXPECT_TRUE(Search(Faces::Face_1, false)) << "without results";
@@ -290,7 +290,7 @@ TEST_F(CantileverSearch, KeepsTheTablesConsistentWhateverTheBuilding) {
     Building().CantileverFace3Or4_Length(lengths[random() % std::size(lengths)]);
     const bool results = random() % 3 != 0;
     bool found = false;
-    const int number = ErrorNumberOf([&] { found = Search(Faces(static_cast<int>(random() % 4)), results); });
+    const int number = ErrorOf([&] { found = Search(Faces(static_cast<int>(random() % 4)), results); });
     // A zone that its cantilever swallows drops out of the roof's list, and with it its length (9).
     ASSERT_TRUE(number == 0 || number == 9) << number;
     const auto zones = Loads().GetCantileverZones();
@@ -332,7 +332,7 @@ TEST_F(CantileverSearch, StartsTheRecordOfWallPressuresWithZeros) {
   Case->CantileverWindloads(nullptr);
   UnitCase(Flat);
   Building().CantileverFace1Or2_Length(1);
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().CantileverValues(Roof, Faces::Face_1); }), 91);
+  EXPECT_EQ(ErrorOf([&] { Loads().CantileverValues(Roof, Faces::Face_1); }), 91);
 }
 
 }  // namespace

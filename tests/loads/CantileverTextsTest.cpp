@@ -1,18 +1,11 @@
 // The texts of cantilever zones.
 #include "loads/CantileverTexts.h"
+#include "support/FakeComponents.h"
 
 namespace orve {
 namespace {
 
-template <class Call>
-int NumberOf(Call&& call) {
-  try {
-    call();
-  } catch (const Error& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using test::ErrorOf;
 
 TEST(CantileverTexts, TakesTheNumberPartBeforeTheUnit) {
   const struct {
@@ -42,7 +35,7 @@ TEST(CantileverTexts, SplitsTheRoofLoads) {
   EXPECT_EQ(one.First, "-1.170");
   EXPECT_EQ(one.Second, "");
   for (const char* text : {"", "+0.500", "+0.500 kN/m², -1.000"})
-    EXPECT_EQ(NumberOf([&] { SplitLoadValues(text); }), 5) << text;
+    EXPECT_EQ(ErrorOf([&] { SplitLoadValues(text); }), 5) << text;
 }
 
 struct CombineRow {
@@ -112,7 +105,7 @@ TEST(CantileverTexts, TellsWhatDoesNotCombine) {
       {"a net load that doesn't fit", "3e38 kN/m²", {"-3e38 kN/m²"}, 6},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(NumberOf([&] { CombineCantileverLoads(row.External, row.Walls); }), row.Number) << row.Name;
+    EXPECT_EQ(ErrorOf([&] { CombineCantileverLoads(row.External, row.Walls); }), row.Number) << row.Name;
 }
 
 TEST(CantileverTexts, SplitsAnOverallTextIntoWindAndUplift) {

@@ -1,23 +1,12 @@
 // A case whose loads are set by hand, zone by zone, so that a test knows every text to the character.
 #pragma once
 
-#include <filesystem>
-#include <gtest/gtest.h>
-
 #include "BuiltInEngines.h"
-#include "orve3_bs6399_2.h"
+#include "support/FakeComponents.h"
 
 namespace orve {
 
-template <class Call>
-int ErrorNumberOf(Call&& call) {
-  try {
-    call();
-  } catch (const Error& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using test::ErrorOf;
 
 class MemberCase : public testing::Test {
  public:
@@ -27,9 +16,6 @@ class MemberCase : public testing::Test {
 
   void SetUp() override {
     RegisterBuiltInEngines();
-    const std::string folder = testing::TempDir() + "orve-member-loads";
-    std::filesystem::create_directories(folder);
-    Host().LibraryFolder = [folder] { return folder; };
     Case = CreateCurrentCase();
   }
 
@@ -64,6 +50,7 @@ class MemberCase : public testing::Test {
                                                                                suction);
   }
 
+  test::PrivateFolder Folder;
   std::shared_ptr<clsCurrentCase> Case;
 };
 

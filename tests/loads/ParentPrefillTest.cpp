@@ -133,8 +133,8 @@ TEST_F(ParentPrefill, PrefillsNothingWhenAValueDoesNotFit) {
   Case->Parent_Type(ParentTypes::Purlin_Continuous_Double);
   Case->Clear();
   const std::string before = State();
-  EXPECT_EQ(ErrorNumberOf([&] { Case->Parent_Span(3e38f); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { Case->Parent_Type(ParentTypes(70000)); }), 6);
+  EXPECT_EQ(ErrorOf([&] { Case->Parent_Span(3e38f); }), 6);
+  EXPECT_EQ(ErrorOf([&] { Case->Parent_Type(ParentTypes(70000)); }), 6);
   EXPECT_EQ(Case->Parent_Type(), ParentTypes::Purlin_Continuous_Double);
   EXPECT_EQ(State(), before);
 }

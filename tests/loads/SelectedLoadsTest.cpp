@@ -57,13 +57,13 @@ TEST_F(SelectedLoads, MarkTheCaseOnlyWhenAValueChanges) {
 
 TEST_F(SelectedLoads, TellWhatLiesOutsideTheTables) {
   for (const auto area : {BuildingAreas(3), BuildingAreas(-2), BuildingAreas(70000)}) {
-    EXPECT_EQ(ErrorNumberOf([&] { Loads().SelectedLoadValues(area, Face1); }), 9);
-    EXPECT_EQ(ErrorNumberOf([&] { Loads().SteppedWind_Load(area, Face1); }), 9);
-    EXPECT_EQ(ErrorNumberOf([&] { Loads().SteppedWind_Span(Roof, Faces(static_cast<int>(area) + 2), 1); }),
+    EXPECT_EQ(ErrorOf([&] { Loads().SelectedLoadValues(area, Face1); }), 9);
+    EXPECT_EQ(ErrorOf([&] { Loads().SteppedWind_Load(area, Face1); }), 9);
+    EXPECT_EQ(ErrorOf([&] { Loads().SteppedWind_Span(Roof, Faces(static_cast<int>(area) + 2), 1); }),
               area == BuildingAreas(-2) ? 0 : 9);
   }
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().SelectedLoadType(Roof, Faces(4), SelectedLoadTypes::A); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { Loads().SelectedLoadType(Roof, Face1, SelectedLoadTypes(40000)); }), 6);
+  EXPECT_EQ(ErrorOf([&] { Loads().SelectedLoadType(Roof, Faces(4), SelectedLoadTypes::A); }), 9);
+  EXPECT_EQ(ErrorOf([&] { Loads().SelectedLoadType(Roof, Face1, SelectedLoadTypes(40000)); }), 6);
   EXPECT_EQ(Loads().SelectedLoadType(Roof, Face1), SelectedLoadTypes::Stepped_Wind_Load);
 }
 
