@@ -20,6 +20,24 @@ float AngleOf(std::int16_t sector) {
   return basBS6399_2::Common->IndexToAngle(sector);
 }
 
+const char* NameOf(WindAreas area) {
+  switch (area) {
+    case WindAreas::waRoof:
+      return "roof";
+    case WindAreas::waSidewall:
+      return "side walls";
+    case WindAreas::waGable:
+      return "gable walls";
+    case WindAreas::waInternal:
+      return "inside of the building";
+    case WindAreas::waSidewallParapet:
+      return "parapet of the side walls";
+    case WindAreas::waGableParapet:
+      return "parapet of the gable walls";
+  }
+  return "";
+}
+
 // Offsets of the normals from the building's orientation, by face.
 constexpr int NormalOffsets[] = {270, 0, 90, 180};
 
@@ -139,7 +157,7 @@ WorstWind ExplainWorstWind(WindFactors& factors, const WorstCase& record, Faces 
                              "is measured against the whole sectors";
   Add(search, Text("face", "wind from", std::string(PublishedText(windFace))));
   Add(search, Normal(windFace, record.AngleNormalToFace));
-  Add(search, Text("area", "wind area", std::string(PublishedText(record.WindArea))));
+  Add(search, Text("area", "wind area", NameOf(record.WindArea)));
 
   QuantityPtr q;
   QuantityPtr ca;

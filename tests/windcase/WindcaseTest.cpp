@@ -1,5 +1,6 @@
 // The commands for one case, or two, through the real program.
 #include <BuiltInEngines.h>
+#include <fstream>
 
 #include "support/FakeComponents.h"
 #include "windcase/Program.h"
@@ -218,6 +219,45 @@ TEST_F(Program, WarnsWhereALoadIsZeroOrAFigureStandsIn) {
   const Ending refused = Run({"loads", "shed.wlc"});
   EXPECT_EQ(refused.code, 1);
   EXPECT_TRUE(Has(refused.out, "no load: "));
+}
+
+/// The words of a command line, with those in quotation marks kept together.
+Words SplitWords(const std::string& line) {
+  Words words;
+  bool quoted = false;
+  bool begins = true;
+  for (const char c : line) {
+    if (c == '"') quoted = !quoted;
+    const bool blank = c == ' ' && !quoted;
+    if (!blank && begins) words.emplace_back();
+    begins = blank;
+    if (!blank && c != '"') words.back() += c;
+  }
+  return words;
+}
+
+// The lines that the README shows are printed, in their order; "..." stands for those left out.
+TEST_F(Program, PrintsWhatTheReadmeShows) {
+  std::ifstream readme(ORVE_README);
+  const std::string prompt = "$ windcase ";
+  std::string printed;
+  std::size_t place = 0;
+  int commands = 0;
+  bool shown = false;
+  for (std::string line; std::getline(readme, line);) {
+    const bool command = line.compare(0, prompt.size(), prompt) == 0;
+    if (command) {
+      printed = Output(SplitWords(line.substr(prompt.size())));
+      place = 0;
+      ++commands;
+    }
+    shown = (shown || command) && line != "```";
+    if (!shown || command || line == "...") continue;
+    const std::size_t found = printed.find(line + "\n", place);
+    ASSERT_NE(found, std::string::npos) << line << "\n" << printed;
+    place = found + line.size();
+  }
+  EXPECT_GE(commands, 6);
 }
 
 TEST_F(Program, ListsRecentCasesByTheirNativePaths) {
