@@ -32,6 +32,10 @@ Object& Require(const std::shared_ptr<Object>& object, const char* what) {
 BVe2X& RequireBreVe() {
   return Require(basBS6399_2::BreVe, "wind-speed component");
 }
+std::shared_ptr<BVe2X> HeldBreVe() {
+  RequireBreVe();
+  return basBS6399_2::BreVe;
+}
 BreCpX& RequireBreCp() {
   return Require(basBS6399_2::BreCp, "pressure-coefficient component");
 }

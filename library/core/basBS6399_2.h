@@ -26,6 +26,8 @@ extern std::shared_ptr<BreCpX> BreCp;
 /// The components, for the members that need them. Errors: 91 if there is none.
 BVe2X& RequireBreVe();
 BreCpX& RequireBreCp();
+/// The same, held by a caller whose work can raise events: a host's handler may put another one in its place.
+std::shared_ptr<BVe2X> HeldBreVe();
 /// The root object. Errors: 91 if there is none.
 clsCurrentCase& RequireCurrentCase();
 

@@ -58,7 +58,7 @@ void clsDynamicPressure::SendSectorValues(BVe2X& component, int sector) {
 
 void clsDynamicPressure::LoadSiteByGridReference(const std::string& reference) {
   const auto self = weak_from_this().lock();
-  const auto component = basBS6399_2::BreVe;
+  const auto component = HeldBreVe();
   component->SiteID(reference);
   component->GBSite();
   if (component->Wizard() == WizardEdited) SiteEdited(true);
@@ -94,8 +94,7 @@ bool clsDynamicPressure::EnterSite() {
 
 bool clsDynamicPressure::PickSite(bool (BVe2X::*dialog)()) {
   const auto self = weak_from_this().lock();
-  RequireBreVe();
-  const auto component = basBS6399_2::BreVe;
+  const auto component = HeldBreVe();
   if (!(component.get()->*dialog)()) return false;
   GridReference(component->SiteID());
   if (SiteEdited()) {
@@ -112,14 +111,14 @@ bool clsDynamicPressure::PickSite(bool (BVe2X::*dialog)()) {
 bool clsDynamicPressure::EditSite() {
   const auto self = weak_from_this().lock();
   RefreshWindComponent();
-  RequireBreVe();
-  const auto component = basBS6399_2::BreVe;
-  const bool accepted = component->Edit();
-  if (!accepted) return false;
-  SiteEdited(true);
+  const auto component = HeldBreVe();
+  if (!component->Edit()) return false;
+  // The values come first: a handler that reads a result at the mark may send them back to the component.
   const clsDynamicPressure before = *this;
   CopySiteFromComponent(*component);
-  if (SiteDiffersFrom(before)) MarkDirty();
+  const bool differs = SiteDiffersFrom(before);
+  SiteEdited(true);
+  if (differs) MarkDirty();
   return true;
 }
 

@@ -212,13 +212,13 @@ float clsDynamicPressure::DynamicPressure_q(WindAreas windArea, WindSectors wind
   const WindAreas area = FollowWindPressureType(given);
   const float height = HeightOf(area);
   SetHeightAndDiagonal(height, DiagonalOf(area));
-  BVe2X& component = RequireBreVe();
-  if (component.Units() != PascalUnits) {
-    component.Units(PascalUnits);
+  const auto component = HeldBreVe();
+  if (component->Units() != PascalUnits) {
+    component->Units(PascalUnits);
     RequireCurrentCase().BreVe_Dirty(true);
   }
   RefreshWindComponent();
-  const float pascals = Method() == Methods::Hybrid ? component.BSGust(sector) : component.DirVal(sector);
+  const float pascals = Method() == Methods::Hybrid ? component->BSGust(sector) : component->DirVal(sector);
   return ToSingle(pascals / PascalsInKilopascal);
 }
 
@@ -239,10 +239,10 @@ float clsDynamicPressure::SizeEffectFactor_Ca(WindAreas windArea, WindSectors wi
   SetHeightAndDiagonal(height, given == WindAreas::waInternal
                                    ? CaseInternalCoefficients()->Calculated_DiagonalDimension_a()
                                    : DiagonalOf(area));
-  BVe2X& component = RequireBreVe();
-  if (!(component.A() > 0)) return 0;
+  const auto component = HeldBreVe();
+  if (!(component->A() > 0)) return 0;
   RefreshWindComponent();
-  return component.HybridCa(sector);
+  return component->HybridCa(sector);
 }
 
 void clsDynamicPressure::SizeEffectFactor_Ca(WindAreas windArea, WindSectors windSector, float value) {

@@ -196,6 +196,14 @@ TEST_F(DynamicPressure, AnEditSurvivesTheNextRefresh) {
   Settle();
   EXPECT_EQ(wind->siteAltitude, 88);
   EXPECT_EQ(pressure->FetchesToSea(WindSectors(5)), 4);
+
+  pressure->SiteEdited(false);
+  pressure->AnnualRisk(0.02f);
+  pressure->GridReference("SU1234");
+  wind->onEdit = [this] { wind->siteAltitude = 99; };
+  const Connection reader = root->DirtyUpdated.Connect([this](bool) { Settle(); });
+  EXPECT_TRUE(pressure->EditSite());
+  EXPECT_EQ(pressure->SiteAltitude(), 99) << "a read at the mark doesn't send the old values over the edit";
 }
 
 TEST_F(DynamicPressure, AFetchThatIsNeverTakenIsTriedTwentyTimes) {

@@ -1,0 +1,119 @@
+// A host that calls back from its handlers: at every event of a run of calls, one after the other.
+#include "common/HostCalls.h"
+#include "core/Required.h"
+#include "support/FakeComponents.h"
+
+namespace orve {
+
+struct Callbacks : testing::Test {
+  test::PrivateFolder folder;
+  std::shared_ptr<clsCurrentCase> root;
+  std::vector<Connection> connections;
+  int eventsToGo = 0;  // The action runs at the event at which none is left.
+  bool acted = false;
+  std::function<void(Callbacks&)> action;
+
+  Callbacks() {
+    // Every root has components of its own, so that a second root lets go of those of the first.
+    const auto log = std::make_shared<test::CallLog>();
+    ComponentClasses().Register("BVe2XControl4.BVe2X", [log]() -> std::shared_ptr<BVe2X> {
+      const auto wind = std::make_shared<test::FakeWindSpeed>(log);
+      wind->wizard = 1, wind->dialogSite = "NZ10";
+      wind->bsGust.fill(600), wind->hybridCa.fill(0.9f);
+      return wind;
+    });
+    ComponentClasses().Register("BreCp2_2XControl3.BreCp2_2X", [log]() -> std::shared_ptr<BreCpX> {
+      const auto coefficients = std::make_shared<test::FakeCoefficients>(log);
+      for (int zone = 0; zone < 32; ++zone)
+        coefficients->zones.push_back(
+            {zone / 8, zone / 2 % 4 * 90.0, zone % 2, zone % 2 ? "B" : "A", 0.5f, -0.8f});
+      return coefficients;
+    });
+    Host().OpenFileDialog = Host().SaveFileDialog = [this](clsCommonDialog& dialog) {
+      dialog.FileName = folder.Path("Shed.WLC");
+      return Event(), true;
+    };
+    Host().MsgBox = [this](const std::string&, std::int32_t, const std::string&) { return Event(), 6; };
+  }
+  ~Callbacks() override {
+    connections.clear(), root.reset();
+    test::ReleaseProcess();
+  }
+
+  void Event() {
+    if (acted || eventsToGo-- > 0) return;
+    acted = true;
+    action(*this);
+  }
+
+  void Run() {
+    root = CreateCurrentCase();
+    connections.clear();
+    connections.push_back(root->DirtyUpdated.Connect([this](bool) { Event(); }));
+    connections.push_back(root->LocationUpdated.Connect([this](const std::string&) { Event(); }));
+    connections.push_back(root->WindCaseListUpdated.Connect([this] { Event(); }));
+    connections.push_back(root->WindCaseOpened.Connect([this](const std::string&) { Event(); }));
+    connections.push_back(root->WindCaseSaved.Connect([this](const std::string&) { Event(); }));
+    const auto present = [] { return Required(basBS6399_2::CurrentCase, "root"); };
+    const auto building = [&] { return Required(present()->BuildingDimensions(), "building"); };
+    const auto site = [&] { return Required(present()->DynamicPressure(), "site"); };
+    const auto internal = [&] { return Required(present()->InternalCoefficients(), "internal"); };
+    const auto loads = [&] { return Required(present()->OverallAppliedLoads(), "loads"); };
+    // With the wizard's mark every load of the site by its reference raises an event in the middle of a read.
+    const auto unload = [&] { site()->SiteEdited(false), site()->SiteDirty(true); };
+    const std::function<void()> calls[] = {
+        [&] { present()->Parent_Type(ParentTypes::Cantilever_Design_Single); },
+        [&] {
+          building()->Face1And3_Length(30), building()->Face2And4_Width(20), building()->Roof_Height(6);
+        },
+        [&] { site()->GridReference("SU12"), site()->DynamicPressure_q(); },
+        [&] { unload(), site()->SizeEffectFactor_Ca(); },
+        [&] { unload(), site()->EffectiveWindSpeed_Ve(); },
+        [&] { unload(), loads()->Hybrid_OverallAppliedLoads(BuildingAreas::baRoof, Faces::Face_1, 0); },
+        [&] { internal()->EnclosedBuilding_GeneralCase(true); },
+        [&] { internal()->DominantOpening_Ratio2(Faces::Face_1, true); },
+        [&] { site()->CrestHeight_Z(WindSectors(0), 3); },
+        [&] { site()->SelectSite(); },
+        [&] { site()->EditSite(); },
+        [&] { unload(), loads()->GetCantileverResults(); },
+        [&] { present()->Description("Shed"), present()->SaveAs(); },
+        [&] { present()->IsDirty(true), present()->Browse(); },
+        [&] { present()->Clear(); },
+    };
+    for (const auto& call : calls) {
+      try {
+        call();
+      } catch (const Error&) {
+      } catch (int) {
+      }
+      ASSERT_EQ(HostMousePointer(), 0) << "the wait cursor is gone";
+    }
+  }
+};
+
+TEST_F(Callbacks, AnyEventMayRunAnyCall) {
+  const std::pair<const char*, std::function<void(Callbacks&)>> actions[] = {
+      {"a new case", [](Callbacks& host) { host.root->Clear(); }},
+      {"another file", [](Callbacks& host) { host.root->OpenExisting(host.folder.Path("Shed.WLC")); }},
+      {"a second root", [](Callbacks& host) { host.root = nullptr, CreateCurrentCase(); }},
+      {"objects set to nothing",
+       [](Callbacks& host) {
+         host.root->BuildingDimensions(nullptr), host.root->DynamicPressure(nullptr);
+         host.root->ExternalCoefficients(nullptr), host.root->InternalCoefficients(nullptr);
+         host.root->OverallAppliedLoads(nullptr), host.root->CantileverWindloads(nullptr);
+       }},
+      {"an exception", [](Callbacks&) { throw 42; }},
+  };
+  for (const auto& [name, act] : actions) {
+    action = act;
+    int event = 0;
+    for (acted = true; acted; ++event) {
+      SCOPED_TRACE(std::string(name) + " at event " + std::to_string(event));
+      acted = false, eventsToGo = event;
+      Run();
+    }
+    EXPECT_GT(event, 50) << "the run raises that many events";
+  }
+}
+
+}  // namespace orve
