@@ -13,7 +13,8 @@ auto Create(const Factories& factories, const std::string& className) {
   const auto found = factories.find(className);
   if (found == factories.end())
     throw Error(ErrorNumber::CannotCreateObject, "The component class " + className + " can't be created");
-  return found->second();
+  const auto factory = found->second;  // A factory may take its own class out of the registry.
+  return factory();
 }
 
 }  // namespace
