@@ -5,6 +5,7 @@
 #include "common/Error.h"
 #include "common/FileLayer.h"
 #include "common/LetterCase.h"
+#include "common/NumberText.h"
 #include "common/TextEncoding.h"
 
 namespace orve {
@@ -12,14 +13,7 @@ namespace orve {
 namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
-constexpr std::string_view Blanks = " \t";
 constexpr std::size_t LongestValue = 1024;
-
-std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(Blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-}
 
 std::string_view WithoutQuotes(std::string_view value) {
   const bool quoted =
@@ -43,7 +37,7 @@ std::string FirstCharacters(std::string_view text, std::size_t count) {
 std::string SectionName(std::string_view line) {
   const std::size_t close = line.find(']');
   if (line.empty() || line.front() != '[' || close == std::string_view::npos) return {};
-  return UpperCase(Trim(line.substr(1, close - 1)));
+  return UpperCase(TrimBlanks(line.substr(1, close - 1)));
 }
 
 }  // namespace
@@ -82,14 +76,14 @@ ProfileFile::Line ProfileFile::LineAt(std::size_t begin) const {
 }
 
 ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view key) const {
-  const std::string wantedSection = UpperCase(Trim(section));
-  const std::string wantedKey = UpperCase(Trim(key));
+  const std::string wantedSection = UpperCase(TrimBlanks(section));
+  const std::string wantedKey = UpperCase(TrimBlanks(key));
   Place place;
   for (std::size_t at = 0; at < m_text.size();) {
     const Line line = LineAt(at);
     at = line.next;
     const std::string_view whole = std::string_view(m_text).substr(line.begin, line.end - line.begin);
-    const std::string_view text = Trim(whole);
+    const std::string_view text = TrimBlanks(whole);
     if (text.empty() || text.front() == ';') continue;
     if (text.front() == '[') {
       if (place.sectionFound) break;
@@ -100,7 +94,7 @@ ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view 
     if (!place.sectionFound) continue;
     place.insertAt = line.next;
     const std::size_t sign = whole.find('=');
-    if (sign == std::string_view::npos || UpperCase(Trim(whole.substr(0, sign))) != wantedKey) continue;
+    if (sign == std::string_view::npos || UpperCase(TrimBlanks(whole.substr(0, sign))) != wantedKey) continue;
     place.keyFound = true;
     place.valueBegin = line.begin + sign + 1;
     place.valueEnd = line.end;
@@ -113,7 +107,7 @@ std::optional<std::string> ProfileFile::Value(std::string_view section, std::str
   const Place place = Find(section, key);
   if (!place.keyFound) return std::nullopt;
   const auto value = std::string_view(m_text).substr(place.valueBegin, place.valueEnd - place.valueBegin);
-  return FirstCharacters(WithoutQuotes(Trim(value)), LongestValue);
+  return FirstCharacters(WithoutQuotes(TrimBlanks(value)), LongestValue);
 }
 
 void ProfileFile::Value(std::string_view section, std::string_view key, std::string_view value) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "common/DateText.h"
+#include "common/LetterCase.h"
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 
@@ -33,13 +34,6 @@ std::string CutBack(std::string text) {
          !IsNumericText(text.substr(text.size() - std::min<std::size_t>(text.size(), 2))))
     text.pop_back();
   return text;
-}
-
-std::string UpperCase(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  return upper;
 }
 
 bool IsOneOf(std::string_view word, std::initializer_list<std::string_view> words) {

@@ -1,14 +1,11 @@
 // The first guess of the building from what the host says of the member that it designs.
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <iterator>
-#include <string>
 
 #include "common/Narrow.h"
-#include "common/NumberText.h"
 #include "core/Required.h"
 #include "core/clsCurrentCase.h"
+#include "geometry/MemberDiagonal.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "loads/clsOverallAppliedLoads.h"
 #include "storage/clsSaveFile.h"
@@ -48,22 +45,17 @@ constexpr PrefillRow Prefill[] = {
 };
 // clang-format on
 
-// Rounded to millimetres as a text, and only then narrowed.
-float Diagonal(double side, double otherSide) {
-  return TextToSingle(FormatFixed(std::sqrt(side * side + otherSide * otherSide), 3));
-}
-
 float DiagonalOf(Sides sides, const clsCurrentCase& parent) {
   const double span = parent.Parent_Span();
   switch (sides) {
     case Sides::CentresAndSpan:
-      return Diagonal(parent.Parent_Centres(), span);
+      return MemberDiagonal(parent.Parent_Centres(), span);
     case Sides::TwoSpansAndCentres:
-      return Diagonal(2 * span, parent.Parent_Centres());
+      return MemberDiagonal(2 * span, parent.Parent_Centres());
     case Sides::ThreeSpansAndCentres:
-      return Diagonal(3 * span, parent.Parent_Centres());
+      return MemberDiagonal(3 * span, parent.Parent_Centres());
     case Sides::BaySizeAndPost:
-      return Diagonal(parent.Parent_BaySize_m(), parent.Parent_HeightOfPost_m());
+      return MemberDiagonal(parent.Parent_BaySize_m(), parent.Parent_HeightOfPost_m());
     case Sides::None:
       break;
   }
