@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,9 @@ namespace orve::explain {
 /// the zone list of the area and face. Errors: those of the reads, as 9 for a zone that isn't there.
 QuantityPtr ExplainZone(BuildingAreas area, Faces face, std::int16_t zone);
 
-/// The warnings of a tree, each once, in the order in which a reader comes to them.
-std::vector<std::string> WarningsOf(const Quantity& tree);
+/// The warnings of some trees, each once, in the order in which a reader comes to them; figures that agree
+/// with published calculations come last.
+std::vector<std::string> WarningsOf(std::span<const QuantityPtr> trees);
 
 /// Warnings of the open case as a whole: gable faces that don't fit a pitched roof's ridge.
 std::vector<std::string> CaseWarnings();

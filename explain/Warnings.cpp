@@ -9,12 +9,29 @@ namespace orve::explain {
 
 namespace {
 
-void Collect(const Quantity& quantity, std::set<const Quantity*>& seen, std::vector<std::string>& warnings) {
-  if (!seen.insert(&quantity).second) return;
-  for (const std::string& warning : quantity.warnings)
-    if (std::find(warnings.begin(), warnings.end(), warning) == warnings.end()) warnings.push_back(warning);
-  for (const QuantityPtr& child : quantity.children) Collect(*child, seen, warnings);
-}
+// Figures that agree with published calculations come behind the others.
+class Collector {
+ public:
+  void Take(const Quantity& quantity) {
+    if (!m_seen.insert(&quantity).second) return;
+    const bool consistent = quantity.source && quantity.source->status == SourceStatus::Consistent;
+    std::vector<std::string>& list = consistent ? m_consistent : m_others;
+    for (const std::string& warning : quantity.warnings)
+      if (std::find(list.begin(), list.end(), warning) == list.end()) list.push_back(warning);
+    for (const QuantityPtr& child : quantity.children) Take(*child);
+  }
+
+  std::vector<std::string> Warnings() const {
+    std::vector<std::string> warnings = m_others;
+    warnings.insert(warnings.end(), m_consistent.begin(), m_consistent.end());
+    return warnings;
+  }
+
+ private:
+  std::set<const Quantity*> m_seen;
+  std::vector<std::string> m_others;
+  std::vector<std::string> m_consistent;
+};
 
 }  // namespace
 
@@ -26,7 +43,9 @@ void WarnOfSource(Quantity& figure) {
   const std::string place = figure.name + " (" + source.standard + ", " + source.table + ")";
   switch (source.status) {
     case SourceStatus::Confirmed:
+      return;
     case SourceStatus::Consistent:
+      figure.warnings.push_back(place + " agrees with published calculations but isn't confirmed");
       return;
     case SourceStatus::Recalled:
       figure.warnings.push_back(place + " is recalled and isn't confirmed: check it against the print");
@@ -40,11 +59,10 @@ void WarnOfSource(Quantity& figure) {
   }
 }
 
-std::vector<std::string> WarningsOf(const Quantity& tree) {
-  std::vector<std::string> warnings;
-  std::set<const Quantity*> seen;
-  Collect(tree, seen, warnings);
-  return warnings;
+std::vector<std::string> WarningsOf(std::span<const QuantityPtr> trees) {
+  Collector collector;
+  for (const QuantityPtr& tree : trees) collector.Take(*tree);
+  return collector.Warnings();
 }
 
 // A roof's wind angle 0 blows on Face 1, across the ridge, so that its gables can only be Faces 2 and 4.

@@ -1,5 +1,7 @@
 // Making, changing and showing a case.
 #include <Explain.h>
+#include <algorithm>
+#include <functional>
 #include <iostream>
 #include <orve3_bs6399_2.h>
 
@@ -31,6 +33,16 @@ std::string AssignAll(OpenCase& windCase, const std::vector<std::string>& assign
   return told;
 }
 
+// The host's design fills a case that is still blank, and its type does so when it is set.
+std::vector<std::string> DesignFirst(std::vector<std::string> assignments) {
+  const auto begins = [](const char* text) {
+    return [text](const std::string& assignment) { return assignment.rfind(text, 0) == 0; };
+  };
+  const auto rest = std::stable_partition(assignments.begin(), assignments.end(), begins("Parent_"));
+  std::stable_partition(assignments.begin(), rest, std::not_fn(begins("Parent_Type")));
+  return assignments;
+}
+
 void WarnOfCase() {
   for (const std::string& warning : orve::explain::CaseWarnings())
     std::cout << "warning: " << warning << "\n";
@@ -44,7 +56,7 @@ ExitCode RunNew(const Options& options) {
   if (!options.force && std::filesystem::exists(path))
     throw Failure(ExitCode::File, path.string() + " is there already; --force writes over it");
   OpenCase windCase(UserSettingsFolder());
-  const std::string told = AssignAll(windCase, options.assignments, true);
+  const std::string told = AssignAll(windCase, DesignFirst(options.assignments), true);
   windCase.SaveAs(path.string());
   std::cout << told << path.string() << " is made\n";
   WarnOfCase();

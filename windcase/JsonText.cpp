@@ -1,5 +1,6 @@
 #include "JsonText.h"
 
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "Failure.h"
@@ -14,6 +15,7 @@ using orve::explain::Quantity;
 
 // The number that the value's own decimal text stands for, so that a 32-bit 0.31 is written as 0.31.
 Json NumberOf(float value) {
+  if (!std::isfinite(value)) return nullptr;
   return orve::TextToDouble(orve::ShortestText(value));
 }
 

@@ -1,7 +1,6 @@
 #include "Results.h"
 
 #include <Explain.h>
-#include <algorithm>
 #include <functional>
 #include <orve3_bs6399_2.h>
 
@@ -90,15 +89,15 @@ std::vector<ZoneLoads> ReadLoads(orve::clsCurrentCase& windCase, const Part& par
 
 // The trees of zones that an engine refuses say nothing; the loads tell the reason.
 std::vector<std::string> ReadWarnings(orve::clsCurrentCase& windCase, const Part& part) {
-  std::vector<std::string> warnings = orve::explain::CaseWarnings();
+  std::vector<orve::explain::QuantityPtr> trees;
   VisitZones(windCase, part, [&](BuildingAreas area, Faces face, std::int16_t zone) {
     try {
-      for (std::string& warning : orve::explain::WarningsOf(*orve::explain::ExplainZone(area, face, zone)))
-        if (std::find(warnings.begin(), warnings.end(), warning) == warnings.end())
-          warnings.push_back(std::move(warning));
+      trees.push_back(orve::explain::ExplainZone(area, face, zone));
     } catch (const orve::Error&) {
     }
   });
+  std::vector<std::string> warnings = orve::explain::CaseWarnings();
+  for (std::string& warning : orve::explain::WarningsOf(trees)) warnings.push_back(std::move(warning));
   return warnings;
 }
 

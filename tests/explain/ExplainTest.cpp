@@ -192,7 +192,7 @@ TEST_F(Explain, WarnsInWords) {
     std::string text;
     for (const std::string& warning : explain::CaseWarnings()) text += warning + "\n";
     const QuantityPtr tree = explain::ExplainZone(BuildingAreas::baRoof, Faces::Face_1, 0);
-    for (const std::string& warning : explain::WarningsOf(*tree)) text += warning + "\n";
+    for (const std::string& warning : explain::WarningsOf({&tree, 1})) text += warning + "\n";
     return text;
   };
   EXPECT_NE(warnings().find("stands in for a figure of BS 6399-2"), std::string::npos);

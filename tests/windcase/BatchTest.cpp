@@ -1,6 +1,9 @@
 // A batch over many cases, one of them corrupt.
 #include <BuiltInEngines.h>
+#include <Workers.h>
+#include <csignal>
 #include <cstdlib>
+#include <map>
 
 #include "support/FakeComponents.h"
 #include "windcase/Program.h"
@@ -83,6 +86,21 @@ TEST_F(Batch, GivesTheSameResultsAsOneCaseByItself) {
     const Ending check = Run({"check", std::string("cases/") + name, "--results", "one/" + stored});
     EXPECT_EQ(check.code, 0) << check.out;
   }
+}
+
+TEST(Workers, CountAJobThatEndsItsProcessAsFailed) {
+  std::map<std::uint32_t, bool> failed;
+  const auto work = [](int) -> windcase::Work {
+    return [](std::uint32_t job) {
+      if (job % 10 == 3) std::raise(SIGKILL);
+      return windcase::JobOutcome();
+    };
+  };
+  windcase::RunJobs(40, 2, work, [&](const windcase::JobOutcome& outcome) {
+    EXPECT_TRUE(failed.emplace(outcome.job, outcome.failed).second) << outcome.job;
+  });
+  EXPECT_EQ(failed.size(), 40U);
+  for (const auto& [job, hasFailed] : failed) EXPECT_EQ(hasFailed, job % 10 == 3) << job;
 }
 
 }  // namespace

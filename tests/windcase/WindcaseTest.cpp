@@ -97,8 +97,8 @@ TEST_F(Program, KeepsValuesSetBehindASiteReference) {
 }
 
 TEST_F(Program, FillsANewCaseFromTheHostsDesign) {
-  const Ending ending =
-      Run({"new", "a.wlc", "Parent_Span=6", "Parent_Centres=1.5", "Parent_Type=Purlin - Single"});
+  const Ending ending = Run({"new", "a.wlc", "Description=x", "Parent_Type=Purlin - Single", "Parent_Span=6",
+                             "Parent_Centres=1.5"});
   EXPECT_EQ(ending.code, 0) << ending.err;
   EXPECT_TRUE(
       Has(Output({"show", "a.wlc", "--json"}), Shown("OverallAppliedLoads.SteppedWind_Span(0, 0)", "6")));
