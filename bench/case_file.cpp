@@ -1,6 +1,7 @@
 // Opening and saving a case, on a file system in memory where there is one, and how a search grows with the
 // file.
 #include "case_file.h"
+#include "portal_building.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
@@ -26,7 +27,7 @@ class SavedCase {
     Host().LibraryFolder = [this] { return m_folder.string(); };
     m_case = CreateCurrentCase();
     m_case->Initialize_BreApps();
-    m_case->BuildingDimensions()->Roof_Height(6);
+    examples::DescribePortalBuilding(*m_case);
     m_case->DynamicPressure()->ManualResults(manualResults);
     m_case->ExternalCoefficients()->ManualResults(manualResults);
     m_case->Location((m_folder / "case.wlc").string());
