@@ -1,6 +1,5 @@
 // The file layer on Windows.
 #define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <algorithm>
 #include <atomic>
 #include <utility>
