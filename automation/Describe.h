@@ -17,6 +17,7 @@ namespace orve::automation {
 struct ArgumentName {
   std::string_view name;
   std::optional<Value> defaultValue;
+  bool byReference = false;
 };
 using ArgumentNames = std::vector<ArgumentName>;
 

@@ -13,8 +13,9 @@ const ClassDescription& DescribeOverallAppliedLoads() {
     const ArgumentNames areaAndFace{{"BuildingArea", -1}, {"Face", -1}};
     const ArgumentNames zone{{"BuildingArea", -1}, {"Face", -1}, {"ZoneIndex", -1}};
     const ArgumentNames row{{"CantileverZoneIndex", {}}};
-    const ArgumentNames steps{{"Span_L1", {}},     {"Span_L2", {}},     {"Span_L3", {}}, {"WindLoad_W1", {}},
-                              {"WindLoad_W2", {}}, {"WindLoad_W3", {}}, {"Step_Z1", {}}, {"Step_Z2", {}}};
+    const ArgumentNames steps{{"Span_L1", {}, true},     {"Span_L2", {}, true},     {"Span_L3", {}, true},
+                              {"WindLoad_W1", {}, true}, {"WindLoad_W2", {}, true}, {"WindLoad_W3", {}, true},
+                              {"Step_Z1", {}, true},     {"Step_Z2", {}, true}};
     ORVE_METHOD(1, GetCantileverZones, none, "", "Copy of the cantilever zone table");
     ORVE_METHOD(2, GetCantileverResults, none, "", "Copy of the cantilever result table");
     ORVE_PROPERTY(3, BuildingArea, none, "", "Building area taken where an argument is -1");

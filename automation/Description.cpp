@@ -94,7 +94,7 @@ std::vector<ArgumentDescription> DescribeArguments(std::string_view member, cons
     throw std::logic_error(std::string(member) + ": the number of argument names is wrong");
   std::vector<ArgumentDescription> arguments;
   for (std::size_t i = 0; i < names.size(); ++i) {
-    ArgumentDescription argument{names[i].name, types[i], {}};
+    ArgumentDescription argument{names[i].name, types[i], {}, names[i].byReference};
     if (names[i].defaultValue) {
       Value storage;
       argument.defaultValue = Coerce(*names[i].defaultValue, types[i], storage);

@@ -61,6 +61,7 @@ struct ArgumentDescription {
   std::string_view name;
   Type type;
   std::optional<Value> defaultValue;  ///< Nothing for an argument that must be given.
+  bool byReference = false;           ///< The COM interface takes it by reference; it is never changed.
 };
 
 /// A property (index arguments, a type, a get and perhaps a let or set) or a method.

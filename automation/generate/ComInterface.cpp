@@ -34,6 +34,11 @@ std::string ComType(const Type& type) {
   return std::string(type.name);
 }
 
+/// The type of an argument, or of a property's new value: a record goes by reference, as typed hosts pass it.
+std::string InputType(const Type& type) {
+  return ComType(type) + (type.kind == Kind::Record ? "*" : "");
+}
+
 std::string DefaultText(const Value& value) {
   const auto* truth = value.As<bool>();
   if (truth == nullptr) return TextOf(value);
@@ -43,9 +48,10 @@ std::string DefaultText(const Value& value) {
 std::vector<std::string> Parameters(const MemberDescription& member) {
   std::vector<std::string> parameters;
   for (const ArgumentDescription& argument : member.arguments) {
-    std::string attributes = "in";
+    std::string attributes = argument.byReference ? "in, out" : "in";
     if (argument.defaultValue) attributes += ", defaultvalue(" + DefaultText(*argument.defaultValue) + ")";
-    parameters.push_back("[" + attributes + "] " + ComType(argument.type) + " " + std::string(argument.name));
+    parameters.push_back("[" + attributes + "] " + InputType(argument.type) +
+                         (argument.byReference ? "* " : " ") + std::string(argument.name));
   }
   return parameters;
 }
@@ -70,7 +76,7 @@ std::string InterfaceText(const ClassDescription& description) {
     text += Line(member.isMethod ? "" : "propget", member, result);
     if (!member.let) continue;
     text += Line(member.type.kind == Kind::Object ? "propputref" : "propput", member,
-                 "[in] " + type + " NewValue");
+                 "[in] " + InputType(member.type) + " NewValue");
   }
   return text + "    };\n\n";
 }
@@ -109,8 +115,8 @@ std::string ComInterface() {
     const std::string name(enumeration.name);
     text += "    typedef [helpstring(\"" + std::string(enumeration.help) + "\")] enum " + name + " {\n";
     for (const Enumerator& enumerator : enumeration.enumerators)
-      text += "        [helpstring(\"" + std::string(enumerator.published) + "\")] " + name + "_" +
-              std::string(enumerator.name) + " = " + std::to_string(enumerator.value) + ",\n";
+      text += "        " + name + "_" + std::string(enumerator.name) + " = " +
+              std::to_string(enumerator.value) + ",\n";
     text.erase(text.size() - 2, 1);
     text += "    } " + name + ";\n\n";
   }

@@ -10,12 +10,14 @@ std::vector<GeneratedFile> GeneratedFiles() {
       {"bindings/c/generated/Types.cpp", CTypesBody()},
       {"bindings/python/orve3_bs6399_2/__init__.pyi", PythonStub()},
       {"automation/generated/ORVE3_BS6399_2.idl", ComInterface()},
+      {"bindings/com/generated/Classes.h", ComClassTable()},
       {"docs/reference/README.md", ReferenceIndex()},
       {"docs/reference/types.md", ReferenceTypesPage()},
   };
   for (const ClassDescription* description : Classes()) {
     const std::string name(description->name);
     files.push_back({"bindings/c/generated/" + name + ".cpp", CClassBody(*description)});
+    files.push_back({"bindings/com/generated/" + name + ".cpp", ComObjectBody(*description)});
     files.push_back({"docs/reference/" + name + ".md", ReferenceClassPage(*description)});
   }
   return files;

@@ -31,8 +31,11 @@ std::string CCallTable();
 
 /// Stub file of the Python module.
 std::string PythonStub();
-/// Interface description of the COM library.
+/// Interface description of the COM library; the COM object of a class, each method one call by number; and
+/// the table that makes them.
 std::string ComInterface();
+std::string ComObjectBody(const ClassDescription& description);
+std::string ComClassTable();
 
 // The reference pages.
 std::string ReferenceIndex();
