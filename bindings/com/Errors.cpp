@@ -1,0 +1,106 @@
+#include "Errors.h"
+
+#include <array>
+#include <iterator>
+#include <string>
+
+#include "Text.h"
+#include "common/Error.h"
+
+namespace orve::com {
+
+namespace {
+
+constexpr HRESULT ControlErrors = static_cast<HRESULT>(0x800A0000);
+constexpr int AutomationFailed = static_cast<int>(automation::DispatchError::AutomationFailed);
+
+struct NumberedResult {
+  HRESULT result;
+  int number;
+};
+// How late-bound hosts number the results of a call.
+constexpr NumberedResult NumberedResults[] = {
+    {DISP_E_UNKNOWNNAME, 438},
+    {DISP_E_MEMBERNOTFOUND, 438},
+    {DISP_E_UNKNOWNINTERFACE, 438},
+    {DISP_E_PARAMNOTFOUND, 448},
+    {DISP_E_PARAMNOTOPTIONAL, 449},
+    {DISP_E_BADPARAMCOUNT, 450},
+    {DISP_E_TYPEMISMATCH, 13},
+    {DISP_E_BADVARTYPE, 13},
+    {DISP_E_OVERFLOW, 6},
+    {DISP_E_BADINDEX, 9},
+    {DISP_E_DIVBYZERO, 11},
+    {DISP_E_NONAMEDARGS, 446},
+    {E_OUTOFMEMORY, 7},
+    {E_INVALIDARG, 5},
+    {E_ACCESSDENIED, 70},
+    {REGDB_E_CLASSNOTREG, 429},
+    {CO_E_CLASSSTRING, 429},
+    {CO_E_NOTINITIALIZED, 429},
+    {E_NOTIMPL, 445},
+    {E_NOINTERFACE, 430},
+    {TYPE_E_ELEMENTNOTFOUND, 438},
+};
+
+std::string HexText(HRESULT result) {
+  static constexpr char digits[] = "0123456789ABCDEF";
+  std::string text(8, '0');
+  auto rest = static_cast<unsigned long>(result);
+  for (auto digit = text.rbegin(); digit != text.rend(); ++digit, rest >>= 4) *digit = digits[rest & 15];
+  return text;
+}
+
+}  // namespace
+
+HRESULT ResultOf(int number) {
+  if (number > 0 && number <= 0xFFFF) return ControlErrors | number;
+  return number < 0 ? static_cast<HRESULT>(number) : ControlErrors | AutomationFailed;
+}
+
+int NumberOf(HRESULT result) {
+  if ((result & static_cast<HRESULT>(0xFFFF0000)) == ControlErrors) return result & 0xFFFF;
+  for (const NumberedResult& numbered : NumberedResults)
+    if (numbered.result == result) return numbered.number;
+  return static_cast<int>(result);
+}
+
+void RaiseIfFailed(HRESULT result) {
+  if (SUCCEEDED(result)) return;
+  throw Error(NumberOf(result), "The system's error " + HexText(result));
+}
+
+void FillException(EXCEPINFO& exception, const automation::ErrorReport& report) {
+  exception = {};
+  exception.scode = ResultOf(report.number);
+  exception.bstrSource = NewText(SourceName);
+  exception.bstrDescription = NewText(report.text);
+}
+
+automation::ErrorReport TakeException(EXCEPINFO& exception) {
+  if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
+  automation::ErrorReport report;
+  report.number = exception.wCode != 0 ? exception.wCode : NumberOf(exception.scode);
+  report.text = FromText(exception.bstrDescription);
+  ::SysFreeString(exception.bstrSource);
+  ::SysFreeString(exception.bstrDescription);
+  ::SysFreeString(exception.bstrHelpFile);
+  exception = {};
+  if (report.number == 0) report.number = AutomationFailed;
+  return report;
+}
+
+HRESULT LeaveErrorInformation(const automation::ErrorReport& report, const GUID& interfaceIdentity) {
+  ComPointer<ICreateErrorInfo> created;
+  if (SUCCEEDED(::CreateErrorInfo(created.Receive()))) {
+    created->SetGUID(interfaceIdentity);
+    created->SetSource(ToWide(SourceName).data());
+    created->SetDescription(ToWide(report.text).data());
+    ComPointer<IErrorInfo> information;
+    if (SUCCEEDED(created->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(information.Receive()))))
+      ::SetErrorInfo(0, information.Get());
+  }
+  return ResultOf(report.number);
+}
+
+}  // namespace orve::com

@@ -1,0 +1,25 @@
+// Values in the plain memory of COM: arguments and results of typed calls, fields of records, and what a
+// VARIANT holds.
+#pragma once
+
+#include "Description.h"
+#include "System.h"
+
+namespace orve::com {
+
+/// The VARIANT type in which a value of a type passes.
+VARTYPE VariantTypeOf(const automation::Type& type);
+
+/// Reads a value of a type at an address; a record at its first field.
+automation::Value ReadPlain(const automation::Type& type, const void* address);
+/// Writes a value of a type there, with a reference or a copy of the caller's; what was there isn't freed.
+void WritePlain(const automation::Type& type, const automation::Value& value, void* address);
+/// What a failed call leaves in place of a result.
+void ClearPlain(const automation::Type& type, void* address);
+
+/// The record's description for the system; kept for the life of the library.
+IRecordInfo* RecordInformation(const automation::RecordDescription& record);
+/// The described record of that identity; null if there is none.
+const automation::RecordDescription* RecordOf(IRecordInfo* information);
+
+}  // namespace orve::com

@@ -1,0 +1,10 @@
+// The system's headers, in the one order in which they can be read.
+#pragma once
+
+// clang-format off
+#include <windows.h>
+#include <ole2.h>
+#include <ocidl.h>
+#include <olectl.h>
+#include <commdlg.h>
+// clang-format on
