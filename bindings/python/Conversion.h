@@ -1,0 +1,44 @@
+// Python objects as values of the object model, and back.
+#pragma once
+
+#include <map>
+#include <pybind11/pybind11.h>
+#include <string>
+#include <string_view>
+
+#include "Dispatch.h"
+
+namespace orve::python {
+
+namespace py = pybind11;
+
+/// What `_orve.Object` holds: a counted reference to an object of the library.
+struct Reference {
+  automation::ObjectReference object;
+};
+
+/// The Python types made from the description, by name: an enumeration as a dictionary from value to member,
+/// a record or class as its type. Never destroyed, since Python's own end comes first.
+struct Types {
+  std::map<std::string_view, py::dict> enumerations;
+  std::map<std::string_view, py::object> records;
+  std::map<std::string_view, py::object> classes;
+  py::object error;
+};
+Types& PythonTypes();
+
+/// A text of the library as a str; bytes that aren't UTF-8 become the replacement character.
+py::object TextToPython(const std::string& text);
+
+/// A value as Python has it: an enumeration as its member where there is one, a stored path as the machine's
+/// own.
+py::object ToPython(const automation::Value& value, const automation::Type& type, bool isPath = false);
+
+/// A Python object as a loosely typed value; None as the empty value. Errors: 13 for what no member can take,
+/// 6 for a whole number beyond all.
+automation::Value FromPython(py::handle object);
+
+/// A Python result of a callback as a value of a type. Errors: 13, 6.
+automation::Value ResultOf(const py::object& result, automation::Kind kind, const char* service);
+
+}  // namespace orve::python
