@@ -21,7 +21,7 @@ std::string Argument(const Type& type, std::size_t index, const std::optional<Va
     case Kind::Date:
       return "double_argument" + at + ")";
     case Kind::Object:
-      return "object_argument" + at + ")";
+      return "(" + CTypeName(type) + ")object_argument" + at + ")";
     case Kind::Record:
       return "record_argument_" + std::string(type.name) + at + ")";
     default:
@@ -29,8 +29,8 @@ std::string Argument(const Type& type, std::size_t index, const std::optional<Va
   }
 }
 
-std::vector<std::string> Arguments(const MemberDescription& member) {
-  std::vector<std::string> arguments{"call->object"};
+std::vector<std::string> Arguments(const ClassDescription& description, const MemberDescription& member) {
+  std::vector<std::string> arguments{"(orve_" + std::string(description.name) + ")call->handle"};
   for (std::size_t i = 0; i < member.arguments.size(); ++i)
     arguments.push_back(Argument(member.arguments[i].type, i, member.arguments[i].defaultValue));
   return arguments;
@@ -72,7 +72,7 @@ std::string FunctionName(const ClassDescription& description, std::string_view v
 std::string GetText(const ClassDescription& description, const MemberDescription& member) {
   std::string text =
       "static orve_error " + FunctionName(description, "get", member) + "(door_call* call) {\n";
-  auto arguments = Arguments(member);
+  auto arguments = Arguments(description, member);
   if (member.type.kind == Kind::RecordArray) {
     text += "  " + CTypeName(member.type) + "* rows; size_t count;\n";
     arguments.insert(arguments.end(), {"&rows", "&count"});
@@ -87,7 +87,7 @@ std::string GetText(const ClassDescription& description, const MemberDescription
 }
 
 std::string LetText(const ClassDescription& description, const MemberDescription& member) {
-  auto arguments = Arguments(member);
+  auto arguments = Arguments(description, member);
   arguments.push_back(Argument(member.type, member.arguments.size(), {}));
   return "static orve_error " + FunctionName(description, "let", member) + "(door_call* call) {\n  return " +
          CLetName(description, member) + "(" + Join(arguments, ", ") + ");\n}\n";

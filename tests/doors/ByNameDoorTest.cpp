@@ -24,7 +24,8 @@ class ScriptRun {
     Host() = HostServices();
     Host().LibraryFolder = [this] { return m_folder.Path().string(); };
     Host().SystemDirectory = Host().LibraryFolder;
-    for (const char* service : {"MsgBox", "Now", "OpenFileDialog", "SaveFileDialog", "SiteBrowse", "SiteSelect"})
+    for (const char* service :
+         {"MsgBox", "Now", "OpenFileDialog", "SaveFileDialog", "SiteBrowse", "SiteSelect"})
       SetService(service, "");
     RegisterBuiltInEngines();
     m_root = CreateObject("clsCurrentCase");
@@ -50,12 +51,15 @@ class ScriptRun {
   }
 
  private:
-  std::string Native(const std::string& text) const { return Replaced(text, "$FOLDER", m_folder.Path().string()); }
+  std::string Native(const std::string& text) const {
+    return Replaced(text, "$FOLDER", m_folder.Path().string());
+  }
   std::string Portable(const std::string& text) const {
     const std::string stored = Replaced(m_folder.Path().string(), "/", "\\");
     std::string upper = stored;
-    std::transform(upper.begin(), upper.end(), upper.begin(),
-                   [](char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 32) : letter; });
+    std::transform(upper.begin(), upper.end(), upper.begin(), [](char letter) {
+      return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 32) : letter;
+    });
     return Replaced(Replaced(text, stored, "$FOLDER"), upper, "$UPPER");
   }
 

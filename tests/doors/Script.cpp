@@ -8,7 +8,8 @@ namespace {
 
 std::string Trimmed(const std::string& text) {
   const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
+  return first == std::string::npos ? std::string()
+                                    : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::vector<std::string> Split(const std::string& text, char separator) {
@@ -25,7 +26,7 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 std::vector<std::string> ScriptLine::Arguments() const {
   const std::string text = Field(3);
-  return text.empty() ? std::vector<std::string>() : Split(text, ';');
+  return text.empty() && Field(0) != "let" ? std::vector<std::string>() : Split(text, ';');
 }
 
 std::vector<ScriptLine> ReadScript(const std::filesystem::path& path) {

