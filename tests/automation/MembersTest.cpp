@@ -1,4 +1,5 @@
 // The description against the headers and against the committed numbers.
+#include <filesystem>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -31,11 +32,12 @@ bool OnlyForCpp(const std::string& name) {
 
 /// The text between the class's "public:" and its "private:", comments left out.
 std::string PublicPart(const HeaderOf& header) {
-  std::ifstream file(std::string(ORVE_LIBRARY_FOLDER) + "/" + header.path);
+  std::ifstream file(std::filesystem::path(ORVE_LIBRARY_FOLDER) / header.path);
+  const std::string opening = std::string("class ").append(header.className);
   std::string text, line;
   bool inClass = false, isPublic = false;
   while (std::getline(file, line)) {
-    if (line.rfind("class " + std::string(header.className), 0) == 0 && line.back() != ';') inClass = true;
+    if (line.rfind(opening, 0) == 0 && line.back() != ';') inClass = true;
     if (inClass && line == " public:") isPublic = true;
     if (inClass && line == " private:") break;
     if (isPublic) text.append(line, 0, line.find("//")).append(1, '\n');
