@@ -1,0 +1,59 @@
+// Small pieces of markup that all parts use.
+#include <algorithm>
+
+#include "Html.h"
+#include "Parts.h"
+
+namespace orve::sheet {
+
+std::string MarkMarkup(const Marks& marks) {
+  if (marks.empty()) return {};
+  std::string markup = "<sup>";
+  for (std::size_t i = 0; i < marks.size(); ++i) {
+    const std::string number = std::to_string(marks[i]);
+    markup += (i ? " " : "") + ("<a href=\"#w" + number) + "\">W" + number + "</a>";
+  }
+  return markup + "</sup>";
+}
+
+std::string MarkedMarkup(const Marked& marked) {
+  return Escaped(marked.text) + MarkMarkup(marked.marks);
+}
+
+std::string NotesMarkup(const Content& content, Marks marks) {
+  std::sort(marks.begin(), marks.end());
+  marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
+  if (marks.empty()) return {};
+  std::string markup = "<ul class=\"w\">";
+  for (const int mark : marks)
+    markup += "<li><b>W" + std::to_string(mark) + "</b> " +
+              Escaped(content.warnings.Texts()[static_cast<std::size_t>(mark) - 1]) + "</li>";
+  return markup + "</ul>\n";
+}
+
+std::string TableMarkup(const std::string& caption, const std::string& head, const std::string& body,
+                        const char* style) {
+  std::string markup =
+      "<div class=\"t\" role=\"region\" tabindex=\"0\" aria-label=\"" + Escaped(caption) + "\"><table";
+  if (*style) markup += " class=\"" + std::string(style) + "\"";
+  return markup + "><caption>" + Escaped(caption) + "</caption><thead><tr>" + head +
+         "</tr></thead><tbody>\n" + body + "</tbody></table></div>\n";
+}
+
+std::string HeadCell(const std::string& markup) {
+  return "<th scope=\"col\">" + markup + "</th>";
+}
+
+std::string RowHead(const std::string& markup) {
+  return "<tr><th scope=\"row\">" + markup + "</th>";
+}
+
+std::string Cell(const std::string& markup) {
+  return "<td>" + markup + "</td>";
+}
+
+std::string FigureMarkup(const std::string& svg, const std::string& caption) {
+  return "<figure>" + svg + "<figcaption>" + Escaped(caption) + "</figcaption></figure>\n";
+}
+
+}  // namespace orve::sheet
