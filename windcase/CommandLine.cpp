@@ -15,6 +15,8 @@ constexpr const char* kExamples = R"(Examples:
   windcase set shed.wlc "FetchesToSea(*)=50" "SteppedWind_Span(0, 1)=6"
   windcase loads shed.wlc --area roof --face 1
   windcase explain shed.wlc walls 1 Windward
+  windcase sheet shed.wlc --project "Shed, Long Lane" --author "A. Author" -o shed.html
+  windcase check shed.wlc --sheet shed.html
   windcase compare before.wlc after.wlc
   windcase batch cases --jobs 4
 
@@ -30,6 +32,7 @@ class CommandLine {
     AddEditing();
     AddReading();
     AddComparing();
+    AddSheet();
   }
 
   std::optional<int> Parse(int argc, const char* const* argv) {
@@ -95,11 +98,24 @@ class CommandLine {
     check->add_flag("--store", m_options.store, "Store the results");
     check->add_option("--results", m_options.results,
                       "File of the stored results; default: FILE with .results.json added");
+    check->add_option("--sheet", m_options.sheet, "Compare with this calculation sheet instead");
     CLI::App* batch = Add(Command::Batch, "batch", "Work out all cases of a folder");
     batch->add_option("FOLDER", m_options.file, "Folder with cases (.wlc)")->required();
     batch->add_option("--jobs", m_options.jobs, "Worker processes; default: one per core")
         ->check(CLI::Range(1, 256));
     batch->add_option("--results", m_options.results, "Folder to store each case's results in");
+  }
+
+  void AddSheet() {
+    CLI::App* sheet =
+        AddWithFile(Command::Sheet, "sheet", "Write the calculation sheet of a case: HTML that prints on A4");
+    sheet->add_option("-o,--output", m_options.output, "File to write; default: the case's name with .html");
+    sheet->add_option("--project", m_options.project, "For the head of the sheet");
+    sheet->add_option("--author", m_options.author);
+    sheet->add_option("--checker", m_options.checker);
+    sheet->add_option("--revision", m_options.revision);
+    sheet->add_option("--date", m_options.date, "Default: the day of the case's last save");
+    sheet->add_flag("--force", m_options.force, "Write over an existing file");
   }
 
   Options& m_options;

@@ -16,5 +16,8 @@ ExitCode RunCompare(const Options& options);
 ExitCode RunCheck(const Options& options);
 ExitCode RunRecent(const Options& options);
 ExitCode RunBatch(const Options& options);
+ExitCode RunSheet(const Options& options);
+/// `check --sheet`: the sheet against its case.
+ExitCode CheckSheet(const Options& options);
 
 }  // namespace windcase

@@ -48,6 +48,7 @@ ExitCode RunCompare(const Options& options) {
 }
 
 ExitCode RunCheck(const Options& options) {
+  if (!options.sheet.empty()) return CheckSheet(options);
   const std::string path = options.results.empty() ? options.file + ".results.json" : options.results;
   const PrivateFolder folder;
   OpenCase windCase(folder.Path());

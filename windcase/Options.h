@@ -6,7 +6,7 @@
 
 namespace windcase {
 
-enum class Command { New, Show, Set, Loads, Explain, Compare, Recent, Check, Batch };
+enum class Command { New, Show, Set, Loads, Explain, Compare, Recent, Check, Batch, Sheet };
 
 struct Options {
   Command command = Command::Show;
@@ -17,8 +17,15 @@ struct Options {
   std::string face;
   std::string zone;
   std::string results;  ///< Stored results of `Check`, results folder of `Batch`; empty for the default.
-  int depth = 0;        ///< Levels of a tree that are shown; 0 for all.
-  int jobs = 0;         ///< Worker processes; 0 for one per core.
+  std::string output;   ///< File of the sheet; empty for the case's own name with .html.
+  std::string sheet;    ///< The sheet that `Check` compares with the case.
+  std::string project;  ///< For the head of a sheet.
+  std::string author;
+  std::string checker;
+  std::string revision;
+  std::string date;
+  int depth = 0;  ///< Levels of a tree that are shown; 0 for all.
+  int jobs = 0;   ///< Worker processes; 0 for one per core.
   bool json = false;
   bool force = false;    ///< Write over an existing file.
   bool changed = false;  ///< Show only what differs from a new case.

@@ -30,6 +30,8 @@ ExitCode Run(const Options& options) {
       return RunCheck(options);
     case Command::Batch:
       return RunBatch(options);
+    case Command::Sheet:
+      return RunSheet(options);
   }
   return ExitCode::Internal;
 }

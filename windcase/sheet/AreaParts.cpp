@@ -27,7 +27,7 @@ std::string ZoneTable(const Content& content, const AreaZones& area, const FaceZ
   const bool parapet = area.area == BuildingAreas::baParapet;
   std::string head;
   for (const char* cell :
-       {"Zone", "Size", "Wind from", "<i>C</i><sub>pe</sub> +", "<i>C</i><sub>pe</sub> \u2212", "<i>q</i>",
+       {"Zone", "Size", "Wind on face", "<i>C</i><sub>pe</sub> +", "<i>C</i><sub>pe</sub> \u2212", "<i>q</i>",
         "<i>C</i><sub>a</sub>", "External", "Internal", "Overall"})
     if (!parapet || std::string_view(cell) != "Internal") head += HeadCell(cell);
   std::string body;
@@ -36,9 +36,9 @@ std::string ZoneTable(const Content& content, const AreaZones& area, const FaceZ
     Gather(marks, row);
     body += RowHead(Escaped(row.name) + MarkMarkup(row.refusal)) +
             Cell(row.dimensions.empty() ? "the rest" : Escaped(row.dimensions)) +
-            Cell(Escaped(row.windFrom)) + Cell(MarkedMarkup(row.cpePressure)) +
-            Cell(MarkedMarkup(row.cpeSuction)) + Cell(MarkedMarkup(row.q)) + Cell(MarkedMarkup(row.Ca)) +
-            Cell(WithoutUnit(row.external));
+            Cell(Escaped(row.windFrom.substr(row.windFrom.find(' ') + 1))) +
+            Cell(MarkedMarkup(row.cpePressure)) + Cell(MarkedMarkup(row.cpeSuction)) +
+            Cell(MarkedMarkup(row.q)) + Cell(MarkedMarkup(row.Ca)) + Cell(WithoutUnit(row.external));
     if (!parapet) body += Cell(WithoutUnit(row.internal));
     body += "<td class=\"o\">" + WithoutUnit(row.overall) + "</td></tr>\n";
   }
@@ -75,22 +75,31 @@ std::string DrawingNote(const Content& content, const AreaZones& area) {
   return note;
 }
 
-std::string DerivationRow(const Content& content, const DerivationLine& line, Marks& marks,
-                          Warnings& warnings) {
+// "4-7, 12"
+std::string Ranges(const std::vector<int>& numbers) {
+  std::string text;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    std::size_t last = i;
+    while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
+    text += (text.empty() ? "" : ", ") + std::to_string(numbers[i]);
+    if (last > i) text += (last > i + 1 ? "\u2013" : ", ") + std::to_string(numbers[last]);
+    i = last;
+  }
+  return text;
+}
+
+std::string DerivationRow(const DerivationLine& line, Marks& marks, Warnings& warnings) {
   const explain::Quantity& quantity = *line.quantity;
   Marks own;
   for (const std::string& text : quantity.warnings) warnings.Mark(own, text);
   marks.insert(marks.end(), own.begin(), own.end());
-  std::string from;
-  for (const int number : line.from) from += (from.empty() ? "" : ", ") + std::to_string(number);
-  std::string name = Escaped(quantity.name) + MarkMarkup(own);
-  if (quantity.layer == explain::Layer::Input && quantity.children.empty()) name += " (input)";
+  const bool input = quantity.layer == explain::Layer::Input && quantity.clause.empty();
   std::string notes;
-  if (!quantity.note.empty()) notes += "<br><small>" + Escaped(quantity.note) + "</small>";
+  if (!quantity.note.empty()) notes += "<br><small>" + NoteMarkup(quantity.note) + "</small>";
   if (quantity.source) notes += "<br><small>" + Escaped(quantity.source->Text()) + "</small>";
-  (void)content;
-  return RowHead(std::to_string(line.number)) + Cell(name) + "<td class=\"f\">" + LineMarkup(quantity) +
-         notes + "</td>" + Cell(from) + Cell(Escaped(quantity.clause)) + "</tr>\n";
+  return RowHead(std::to_string(line.number)) + Cell(Escaped(quantity.name) + MarkMarkup(own)) + "<td>" +
+         LineMarkup(quantity) + notes + "</td>" + Cell(Ranges(line.from)) +
+         Cell(input ? "input" : Escaped(quantity.clause)) + "</tr>\n";
 }
 
 }  // namespace
@@ -123,8 +132,7 @@ std::string DerivationPart(const Content& content, const AreaZones& area) {
   std::string body;
   Marks marks;
   Warnings warnings = content.warnings;
-  for (const DerivationLine& line : Derive(*row.tree, pressure))
-    body += DerivationRow(content, line, marks, warnings);
+  for (const DerivationLine& line : Derive(*row.tree, pressure)) body += DerivationRow(line, marks, warnings);
   const std::string caption = row.tree->name + ": overall " + (pressure ? "pressure " : "suction ") +
                               FormatSignedLoad(governing.load) + std::string(LoadUnit);
   return TableMarkup(caption,

@@ -1,5 +1,6 @@
 #include "Content.h"
 
+#include <cmath>
 #include <orve3_bs6399_2.h>
 
 #include "Sha256.h"
@@ -64,7 +65,11 @@ void AddMembers(FactList& facts, const Content& content) {
 
 std::string DayText(double date) {
   if (date == 0) return {};
-  return DateText(std::floor(date));
+  try {
+    return DateText(std::floor(date));
+  } catch (const Error&) {  // a day that the calendar doesn't have
+    return {};
+  }
 }
 
 }  // namespace

@@ -13,29 +13,48 @@ namespace {
 using explain::Quantity;
 using explain::QuantityPtr;
 
-// The candidates of a search that didn't win have no line of their own: their numbers stand in its products.
-bool HasLine(const Quantity& quantity) {
-  return !quantity.children.empty() || quantity.layer != explain::Layer::Component || quantity.source ||
-         !quantity.clause.empty() || !quantity.note.empty() || !quantity.warnings.empty();
+bool StartsWith(const std::string& text, std::string_view start) {
+  return text.compare(0, start.size(), start) == 0;
 }
 
+// The candidates of a search that didn't win have no line of their own: their numbers stand in its products.
+bool HasLine(const Quantity& quantity) {
+  const bool ofCandidate = StartsWith(quantity.symbol, "q_") || StartsWith(quantity.symbol, "Ca_");
+  return !ofCandidate || !quantity.children.empty() || quantity.source ||
+         quantity.layer == explain::Layer::Input || !quantity.warnings.empty();
+}
+
+// Numbers the lines. The same quantity, met again in another place, keeps its first line.
 class Lines {
  public:
   int Number(const Quantity& quantity) {
-    if (const auto known = m_numbers.find(&quantity); known != m_numbers.end()) return known->second;
+    if (const auto known = m_met.find(&quantity); known != m_met.end()) return known->second;
     DerivationLine line{0, &quantity, {}};
     for (const QuantityPtr& child : quantity.children)
       if (HasLine(*child)) line.from.push_back(Number(*child));
-    line.number = static_cast<int>(m_lines.size()) + 1;
     std::sort(line.from.begin(), line.from.end());
-    m_numbers[&quantity] = line.number;
-    m_lines.push_back(std::move(line));
-    return m_lines.back().number;
+    const auto [place, isNew] = m_numbers.emplace(KeyOf(line), static_cast<int>(m_lines.size()) + 1);
+    m_met[&quantity] = line.number = place->second;
+    if (isNew) m_lines.push_back(std::move(line));
+    return place->second;
   }
   std::vector<DerivationLine> Take() { return std::move(m_lines); }
 
  private:
-  std::map<const Quantity*, int> m_numbers;
+  static std::string KeyOf(const DerivationLine& line) {
+    const Quantity& quantity = *line.quantity;
+    std::string key;
+    for (const std::string* part : {&quantity.symbol, &quantity.name, &quantity.text, &quantity.formula,
+                                    &quantity.numbers, &quantity.note})
+      key += *part + '\n';
+    if (quantity.value) key += explain::FormulaNumber(*quantity.value);
+    if (quantity.source) key += quantity.source->Text();
+    for (const int number : line.from) key += "\n" + std::to_string(number);
+    return key;
+  }
+
+  std::map<const Quantity*, int> m_met;
+  std::map<std::string, int> m_numbers;
   std::vector<DerivationLine> m_lines;
 };
 
@@ -69,16 +88,22 @@ bool IsFunction(std::string_view token) {
   return token == "max" || token == "min" || token == "ln" || token == "sqrt" || token == "cbrt";
 }
 
+std::string WithoutZeros(std::string text) {
+  if (text.find('.') == std::string::npos) return text;
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return text;
+}
+
+// All digits that formulas show, then the number as the library prints it.
 std::string Result(const Quantity& quantity) {
-  std::string text = quantity.text;
-  if (quantity.value) {
-    const std::string full = explain::FormulaNumber(*quantity.value);
-    const bool same = text.empty() || explain::FormulaNumber(*quantity.value) == text;
-    text = same ? "<b>" + Escaped(full) + "</b>" : Escaped(full) + " \u2248 <b>" + Escaped(text) + "</b>";
-    if (!quantity.unit.empty()) text += " " + Escaped(quantity.unit);
-    return text;
-  }
-  return "<b>" + Escaped(text) + "</b>";
+  if (!quantity.value) return "<b>" + Escaped(quantity.text) + "</b>";
+  const std::string full = explain::FormulaNumber(*quantity.value);
+  const bool same = quantity.text.empty() || WithoutZeros(quantity.text) == full;
+  std::string markup = same ? "<b>" + FormulaMarkup(full) + "</b>"
+                            : FormulaMarkup(full) + " \u2248 <b>" + FormulaMarkup(quantity.text) + "</b>";
+  if (!quantity.unit.empty()) markup += " " + Escaped(quantity.unit);
+  return markup;
 }
 
 }  // namespace
@@ -124,12 +149,21 @@ std::string FormulaMarkup(std::string_view formula) {
   return markup;
 }
 
+std::string NoteMarkup(std::string_view note) {
+  constexpr std::string_view governs = " governs";
+  if (note.size() <= governs.size() || note.substr(note.size() - governs.size()) != governs)
+    return Escaped(note);
+  return FormulaMarkup(note.substr(0, note.size() - governs.size())) + std::string(governs);
+}
+
 std::string LineMarkup(const Quantity& quantity) {
   std::string markup;
   if (quantity.value) markup += SymbolMarkup(quantity.symbol) + " = ";
   if (!quantity.formula.empty()) {
-    markup += FormulaMarkup(quantity.formula) + "<br>= ";
-    if (quantity.numbers != quantity.formula) markup += FormulaMarkup(quantity.numbers) + "<br>= ";
+    markup += FormulaMarkup(quantity.formula) + " = ";
+    const bool moreToSay = quantity.numbers != quantity.formula &&
+                           !(quantity.value && quantity.numbers == explain::FormulaNumber(*quantity.value));
+    if (moreToSay) markup += FormulaMarkup(quantity.numbers) + " = ";
   }
   return markup + Result(quantity);
 }

@@ -23,6 +23,8 @@ std::vector<DerivationLine> Derive(const explain::Quantity& zone, bool pressure)
 std::string SymbolMarkup(std::string_view symbol);
 /// A formula with symbols or with numbers; powers raised, minus signs as such.
 std::string FormulaMarkup(std::string_view formula);
+/// What governs, as a formula, or a note in words.
+std::string NoteMarkup(std::string_view note);
 /// The whole line: symbol, formula, numbers and result.
 std::string LineMarkup(const explain::Quantity& quantity);
 

@@ -4,6 +4,7 @@
 
 #include "Drawings.h"
 #include "common/LoadText.h"
+#include "common/NumberText.h"
 
 namespace orve::sheet {
 

@@ -33,11 +33,10 @@ std::string NotesMarkup(const Content& content, Marks marks) {
 
 std::string TableMarkup(const std::string& caption, const std::string& head, const std::string& body,
                         const char* style) {
-  std::string markup =
-      "<div class=\"t\" role=\"region\" tabindex=\"0\" aria-label=\"" + Escaped(caption) + "\"><table";
-  if (*style) markup += " class=\"" + std::string(style) + "\"";
-  return markup + "><caption>" + Escaped(caption) + "</caption><thead><tr>" + head +
-         "</tr></thead><tbody>\n" + body + "</tbody></table></div>\n";
+  const std::string name = Escaped(caption);
+  return std::string("<div class=\"t") + (*style ? " " : "") + style +
+         "\" role=\"region\" tabindex=\"0\" aria-label=\"" + name + "\"><table><caption>" + name +
+         "</caption><thead><tr>" + head + "</tr></thead><tbody>\n" + body + "</tbody></table></div>\n";
 }
 
 std::string HeadCell(const std::string& markup) {

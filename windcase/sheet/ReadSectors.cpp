@@ -78,7 +78,7 @@ SectorTable ReadArea(const AreaTitle& area, Warnings& warnings) {
   const auto site = RequireCurrentCase().DynamicPressure();
   constexpr int places = 3;
   const bool all = !site->ManualResults() && area.area != WindAreas::waInternal;
-  SectorTable table{area.title, {}, {}, true};
+  SectorTable table{area.title, {}, {}, area.area != WindAreas::waInternal};
   for (const FactorColumn& row : kFactorColumns) {
     if (!all && !row.always) continue;
     const bool isQ = row.read == static_cast<ReadFactor>(&clsDynamicPressure::DynamicPressure_q);

@@ -37,6 +37,11 @@ Edge EdgeOf(Faces face, double length, double width) {
   }
 }
 
+std::string Plan(const BuildingForm& building) {
+  return ShortestText(static_cast<float>(building.length)) + " m \u00D7 " +
+         ShortestText(static_cast<float>(building.width)) + " m";
+}
+
 class RoofPlan {
  public:
   RoofPlan(const BuildingForm& building, const FaceZones& zones)
@@ -84,9 +89,9 @@ class RoofPlan {
       return Point{middle.x + edge.outwards.x * distance + edge.outwards.y * aside,
                    middle.y - edge.outwards.y * distance + edge.outwards.x * aside};
     };
-    const Point label = out(12, 12);
-    m_svg.Text({label.x, label.y + 3}, std::string(1, static_cast<char>('1' + static_cast<int>(face))),
-               {10, "middle", true});
+    const Point label = out(12, 32);
+    const bool sideways = edge.outwards.x != 0;
+    m_svg.Text({label.x, label.y + 3}, std::string(PublishedText(face)), {9, "middle", true, sideways});
     if (face == m_zones.face) m_svg.Arrow(out(28, 0), out(4, 0));
   }
 
@@ -115,7 +120,7 @@ class RoofPlan {
 Drawing DrawRoof(const BuildingForm& building, const FaceZones& zones, double greatest) {
   if (!IsLength(building.length) || !IsLength(building.width) || zones.rows.empty()) return {};
   return {RoofPlan(building, zones).Draw(greatest),
-          "Roof, wind on " + std::string(PublishedText(zones.face))};
+          "Roof " + Plan(building) + ", wind on " + std::string(PublishedText(zones.face))};
 }
 
 }  // namespace orve::sheet

@@ -13,10 +13,11 @@ namespace {
 struct Part {
   std::string title;
   std::string body;
+  bool ownPage = true;
 };
 
 std::vector<Part> PartsOf(const Content& content) {
-  std::vector<Part> parts = {{"Warnings", WarningsPart(content)},
+  std::vector<Part> parts = {{"Warnings", WarningsPart(content), false},
                              {"Inputs", InputsPart(content)},
                              {"Site and dynamic pressure", SitePart(content)}};
   for (const AreaZones& area : content.areas)
@@ -24,8 +25,8 @@ std::vector<Part> PartsOf(const Content& content) {
   for (const AreaZones& area : content.areas)
     parts.push_back({area.title + ": derivation of the governing load", DerivationPart(content, area)});
   parts.push_back({"Cantilevers", CantileverPart(content)});
-  parts.push_back({"Loads of members", MembersPart(content)});
-  parts.push_back({"Sources of the figures", SourcesPart(content)});
+  parts.push_back({"Loads of members", MembersPart(content), false});
+  parts.push_back({"Sources of the figures", SourcesPart(content), false});
   std::erase_if(parts, [](const Part& part) { return part.body.empty(); });
   return parts;
 }
@@ -40,9 +41,10 @@ std::string Contents(const std::vector<Part>& parts) {
 // On a screen each part tells its number; on paper each page tells its own.
 std::string Section(const Part& part, std::size_t number, std::size_t count) {
   const std::string id = "part" + std::to_string(number);
-  return "<section id=\"" + id + "\" aria-labelledby=\"" + id + "h\"><p class=\"n\">Part " +
-         std::to_string(number) + " of " + std::to_string(count) + "</p><h2 id=\"" + id + "h\">" +
-         std::to_string(number) + " " + Escaped(part.title) + "</h2>\n" + part.body + "</section>\n";
+  return "<section" + std::string(part.ownPage ? " class=\"page\"" : "") + " id=\"" + id +
+         "\" aria-labelledby=\"" + id + "h\"><p class=\"n\">Part " + std::to_string(number) + " of " +
+         std::to_string(count) + "</p><h2 id=\"" + id + "h\">" + std::to_string(number) + " " +
+         Escaped(part.title) + "</h2>\n" + part.body + "</section>\n";
 }
 
 std::string MetaTags(const Content& content, const SheetOptions& options) {

@@ -31,7 +31,8 @@ std::string SectorMarkup(const Content& content, const SectorTable& table) {
     }
     body += "</tr>\n";
   }
-  return TableMarkup(table.title, head, body, "num") + NotesMarkup(content, marks);
+  return TableMarkup(table.title, head, body, table.columns.size() > 2 ? "num" : "num slim") +
+         NotesMarkup(content, marks);
 }
 
 std::string SymbolKey(const Content& content) {
@@ -70,11 +71,11 @@ std::string SitePart(const Content& content) {
     const Drawing rose = DrawRose(table, greatest);
     if (table.hasRose && !rose.svg.empty()) markup += FigureMarkup(rose.svg, rose.caption);
   }
-  markup += "</div>\n" + SectorMarkup(content, content.siteData);
+  markup += "</div>\n" + SymbolKey(content) + SectorMarkup(content, content.siteData);
   for (const SectorTable& table : content.factors)
     markup +=
         SectorMarkup(content, {"Factors and dynamic pressure: " + table.title, table.columns, {}, false});
-  return markup + SymbolKey(content);
+  return markup;
 }
 
 std::string CantileverPart(const Content& content) {

@@ -26,24 +26,25 @@ dt{font-size:.72rem;color:#333}
 dd{margin:0;font-weight:bold}
 .mono dd{font:.74rem/1.5 "Liberation Mono","DejaVu Sans Mono",monospace;overflow-wrap:anywhere}
 .t{overflow-x:auto;margin:0 0 .8rem}
-table{border-collapse:collapse;width:100%;font-size:.8rem;line-height:1.3}
+table{border-collapse:collapse;width:100%;font-size:.78rem;line-height:1.25}
+.slim table{width:auto;min-width:30%}
 caption{text-align:left;font-weight:bold;padding:.3rem 0;break-after:avoid}
 th,td{border:.5px solid #777;padding:.12rem .35rem;text-align:left;vertical-align:top}
 th{font-weight:normal}
 thead th{background:#eee;font-weight:bold}
 thead{display:table-header-group}
 tr{break-inside:avoid}
-.num td{text-align:right;white-space:nowrap}
-.num td:nth-child(2){white-space:normal}
+.num td,.num tbody th{white-space:nowrap}
+.num td{text-align:right}
 .num thead th{text-align:center}
 .o{font-weight:bold}
 .s td,.s th{height:2.1rem;vertical-align:middle}
 .s tbody th{width:14%}.s td:last-child{width:16%}.s td:nth-child(2){width:32%}
 .in td:nth-child(2){text-align:right;font-weight:bold}
-.d{font-size:.78rem}
-.d th:first-child,.d td:nth-child(4){width:4.5em;text-align:right}
-.d td:nth-child(2){width:24%}
-.d td:nth-child(5){width:6.2em;border-left:2px solid #000}
+.d th:first-child{width:3.2em;text-align:right}
+.d td:nth-child(2){width:25%}
+.d td:nth-child(4){width:6.5em}
+.d td:nth-child(5){width:6.5em;border-left:2px solid #000}
 .d small{color:#333}
 i{font-family:"Liberation Serif","DejaVu Serif",serif;font-size:1.08em}
 sub,sup{font-size:.72em;line-height:0}
@@ -61,7 +62,7 @@ svg{display:block;max-width:100%;height:auto;margin:0 auto}
 .wl b{display:inline-block;width:2.6rem;text-indent:0}
 .note{border:1.5px solid #000;padding:.4rem .6rem}
 @media(max-width:40rem){.f div{width:100%;display:block}body{padding:.6rem}}
-@media print{body{padding:0;max-width:none;font-size:10pt}.t{overflow:visible}.n{display:none}section{break-before:page;margin:0}.cols{columns:2;column-gap:6mm}.cols .t{break-inside:avoid}}
+@media print{body{padding:0;max-width:none;font-size:10pt}.t{overflow:visible}.n{display:none}section{margin-top:6mm}.page{break-before:page;margin-top:0}.t,.tone{break-inside:avoid}.t.d{break-inside:auto}.cols{columns:2;column-gap:6mm}.cols .t{break-inside:avoid}}
 )";
 
 // Head and foot of each page; where a browser has no such boxes it prints its own page numbers.
