@@ -1,4 +1,5 @@
 // An area's drawings and zone tables, and the derivation of its governing load.
+#include <algorithm>
 #include <orve3_bs6399_2.h>
 
 #include "Derivation.h"
@@ -23,20 +24,18 @@ void Gather(Marks& all, const ZoneRow& row) {
     all.insert(all.end(), marks->begin(), marks->end());
 }
 
-std::string ZoneTable(const Content& content, const AreaZones& area, const FaceZones& face) {
+std::string ZoneTable(const AreaZones& area, const FaceZones& face, Marks& marks) {
   const bool parapet = area.area == BuildingAreas::baParapet;
   std::string head;
   for (const char* cell :
-       {"Zone", "Size", "Wind on face", "<i>C</i><sub>pe</sub> +", "<i>C</i><sub>pe</sub> \u2212", "<i>q</i>",
+       {"Zone", "Size", "Wind on", "<i>C</i><sub>pe</sub> +", "<i>C</i><sub>pe</sub> \u2212", "<i>q</i>",
         "<i>C</i><sub>a</sub>", "External", "Internal", "Overall"})
     if (!parapet || std::string_view(cell) != "Internal") head += HeadCell(cell);
   std::string body;
-  Marks marks;
   for (const ZoneRow& row : face.rows) {
     Gather(marks, row);
     body += RowHead(Escaped(row.name) + MarkMarkup(row.refusal)) +
-            Cell(row.dimensions.empty() ? "the rest" : Escaped(row.dimensions)) +
-            Cell(Escaped(row.windFrom.substr(row.windFrom.find(' ') + 1))) +
+            Cell(row.dimensions.empty() ? "the rest" : Escaped(row.dimensions)) + Cell(row.windFrom) +
             Cell(MarkedMarkup(row.cpePressure)) + Cell(MarkedMarkup(row.cpeSuction)) +
             Cell(MarkedMarkup(row.q)) + Cell(MarkedMarkup(row.Ca)) + Cell(WithoutUnit(row.external));
     if (!parapet) body += Cell(WithoutUnit(row.internal));
@@ -45,7 +44,7 @@ std::string ZoneTable(const Content& content, const AreaZones& area, const FaceZ
   if (body.empty()) return {};
   const std::string caption =
       area.title + ", " + std::string(PublishedText(face.face)) + ": coefficients, and loads in kN/m\u00B2";
-  return TableMarkup(caption, head, body, "num") + NotesMarkup(content, marks);
+  return TableMarkup(caption, head, body, "num");
 }
 
 Drawing Draw(const Content& content, const AreaZones& area, const FaceZones& face) {
@@ -75,19 +74,6 @@ std::string DrawingNote(const Content& content, const AreaZones& area) {
   return note;
 }
 
-// "4-7, 12"
-std::string Ranges(const std::vector<int>& numbers) {
-  std::string text;
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    std::size_t last = i;
-    while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
-    text += (text.empty() ? "" : ", ") + std::to_string(numbers[i]);
-    if (last > i) text += (last > i + 1 ? "\u2013" : ", ") + std::to_string(numbers[last]);
-    i = last;
-  }
-  return text;
-}
-
 std::string DerivationRow(const DerivationLine& line, Marks& marks, Warnings& warnings) {
   const explain::Quantity& quantity = *line.quantity;
   Marks own;
@@ -105,21 +91,27 @@ std::string DerivationRow(const DerivationLine& line, Marks& marks, Warnings& wa
 }  // namespace
 
 std::string AreaPart(const Content& content, const AreaZones& area) {
+  if (std::all_of(area.faces.begin(), area.faces.end(),
+                  [](const FaceZones& face) { return face.rows.empty(); }))
+    return {};
   std::string figures;
   std::string tables;
+  Marks marks;
   for (const FaceZones& face : area.faces) {
     const Drawing drawing = Draw(content, area, face);
     const std::string figure =
         drawing.svg.empty() ? std::string() : FigureMarkup(drawing.svg, drawing.caption);
     // The plans of the four winds stand together, an elevation stands with its table.
-    (area.area == BuildingAreas::baRoof ? figures : tables) += figure;
-    tables += ZoneTable(content, area, face);
+    const bool together = area.area != BuildingAreas::baRoof;
+    if (!together) figures += figure;
+    tables += "<div class=\"face\">" + (together ? figure : std::string()) + ZoneTable(area, face, marks) +
+              "</div>\n";
   }
-  if (tables.empty()) return {};
   std::string markup;
   if (area.GreatestLoad() > 0)
     markup += "<div class=\"tone\">" + DrawToneKey(area.GreatestLoad()) + "</div>\n";
-  markup += "<p class=\"key\">" + DrawingNote(content, area) + "</p>\n";
+  markup += "<p class=\"key\">" + DrawingNote(content, area) +
+            " \u201CWind on\u201D names the face that the wind blows on.</p>\n" + NotesMarkup(content, marks);
   if (!figures.empty()) markup += "<div class=\"figs\">" + figures + "</div>\n";
   return markup + tables;
 }

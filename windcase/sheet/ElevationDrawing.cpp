@@ -10,10 +10,10 @@ namespace orve::sheet {
 
 namespace {
 
-constexpr double kCanvas = 690;
-constexpr double kPanel = 330;
-constexpr double kWidest = 310;
-constexpr double kTallest = 150;
+constexpr double kCanvas = 672;
+constexpr double kPanel = 326;
+constexpr double kWidest = 300;
+constexpr double kTallest = 78;
 constexpr double kTitle = 16;
 constexpr double kFoot = 18;
 

@@ -6,14 +6,23 @@
 
 namespace orve::sheet {
 
+std::string Ranges(const std::vector<int>& numbers) {
+  std::string text;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    std::size_t last = i;
+    while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1) ++last;
+    text += (text.empty() ? "" : ", ") + std::to_string(numbers[i]);
+    if (last > i) text += (last > i + 1 ? "\u2013" : ", ") + std::to_string(numbers[last]);
+    i = last;
+  }
+  return text;
+}
+
 std::string MarkMarkup(const Marks& marks) {
   if (marks.empty()) return {};
-  std::string markup = "<sup>";
-  for (std::size_t i = 0; i < marks.size(); ++i) {
-    const std::string number = std::to_string(marks[i]);
-    markup += (i ? " " : "") + ("<a href=\"#w" + number) + "\">W" + number + "</a>";
-  }
-  return markup + "</sup>";
+  Marks sorted = marks;
+  std::sort(sorted.begin(), sorted.end());
+  return "<sup><a href=\"#w" + std::to_string(sorted.front()) + "\">W" + Ranges(sorted) + "</a></sup>";
 }
 
 std::string MarkedMarkup(const Marked& marked) {

@@ -24,7 +24,9 @@ std::string SourcesPart(const Content& content);
 
 // Small pieces.
 
-/// The marks of warnings behind a number, as links; empty without any.
+/// Rising numbers with runs drawn together, as "4–7, 12".
+std::string Ranges(const std::vector<int>& numbers);
+/// The marks of warnings behind a number, as a link; empty without any.
 std::string MarkMarkup(const Marks& marks);
 std::string MarkedMarkup(const Marked& marked);
 /// The warnings that were marked, below a table.

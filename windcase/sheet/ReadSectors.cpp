@@ -96,6 +96,7 @@ SectorTable ReadArea(const AreaTitle& area, Warnings& warnings) {
 SectorTable ReadSiteData(Warnings& warnings) {
   const auto site = RequireCurrentCase().DynamicPressure();
   SectorTable table{"Site by sector", {}, {}, false};
+  if (site->ManualResults()) return table;  // the site plays no part
   for (const SiteColumn& row : kSiteColumns)
     table.columns.push_back(Column(row.symbol, row.name, row.unit, warnings, [&](WindSectors sector) {
       return ShortestText(((*site).*row.read)(sector));

@@ -17,9 +17,9 @@ using explain::QuantityPtr;
 constexpr int kPlaces = 3;
 constexpr const char* kRefused = "\u2013";
 
-const Quantity* Child(const Quantity& quantity, const std::string& symbol) {
+QuantityPtr Child(const Quantity& quantity, const std::string& symbol) {
   for (const QuantityPtr& child : quantity.children)
-    if (child->symbol == symbol) return child.get();
+    if (child->symbol == symbol) return child;
   return nullptr;
 }
 
@@ -27,9 +27,9 @@ void MarkOwn(Marks& marks, const Quantity& quantity, Warnings& warnings) {
   for (const std::string& text : quantity.warnings) warnings.Mark(marks, text);
 }
 
-void MarkAll(Marks& marks, const Quantity* quantity, Warnings& warnings) {
+void MarkAll(Marks& marks, const QuantityPtr& quantity, Warnings& warnings) {
   if (!quantity) return;
-  for (const std::string& text : explain::WarningsOf(*quantity)) warnings.Mark(marks, text);
+  for (const std::string& text : explain::WarningsOf({&quantity, 1})) warnings.Mark(marks, text);
 }
 
 // Each warning goes to the number that it touches: those of the coefficient, of q and of Ca to these, the
@@ -44,14 +44,14 @@ void MarkExternal(ZoneRow& row, const Quantity& load, Warnings& warnings) {
 
 void MarkRow(ZoneRow& row, Warnings& warnings) {
   for (const char* side : {"p_max", "p_min"}) {
-    const Quantity* load = Child(*row.tree, side);
+    const QuantityPtr load = Child(*row.tree, side);
     if (!load) continue;
     MarkOwn(row.overall.marks, *load, warnings);
     for (const QuantityPtr& term : load->children)
       if (term->symbol.compare(0, 2, "pe") == 0)
         MarkExternal(row, *term, warnings);
       else
-        MarkAll(row.internal.marks, term.get(), warnings);
+        MarkAll(row.internal.marks, term, warnings);
   }
 }
 
@@ -80,8 +80,7 @@ ZoneRow ReadZone(BuildingAreas area, Faces face, std::int16_t zone, Warnings& wa
   ZoneRow row;
   row.zone = zone;
   row.name = external->Hybrid_ZoneDescription(area, face, zone);
-  const auto windFrom = static_cast<Faces>(external->Hybrid_WindFromFace(area, face, zone));
-  row.windFrom = std::string(PublishedText(windFrom));
+  row.windFrom = std::to_string(1 + external->Hybrid_WindFromFace(area, face, zone));
   const ZoneDimensionsXY size = external->Hybrid_ZoneDimensionsXY(area, face, zone);
   row.size = {row.name, !external->Hybrid_ZoneDimensions(area, face, zone).empty(), size.DimensionX,
               size.DimensionY};

@@ -9,10 +9,10 @@ namespace orve::sheet {
 
 namespace {
 
-constexpr double kCanvas = 340;
+constexpr double kCanvas = 332;
 constexpr double kMargin = 36;
 constexpr double kFoot = 22;
-constexpr double kTallest = 230;
+constexpr double kTallest = 200;
 
 bool IsLength(double value) {
   return std::isfinite(value) && value > 0;

@@ -8,7 +8,7 @@ namespace orve::sheet {
 
 namespace {
 
-constexpr double kWidth = 230;
+constexpr double kWidth = 222;
 constexpr double kHeight = 190;
 constexpr double kRadius = 66;
 constexpr int kSector = 30;

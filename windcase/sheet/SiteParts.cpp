@@ -71,10 +71,13 @@ std::string SitePart(const Content& content) {
     const Drawing rose = DrawRose(table, greatest);
     if (table.hasRose && !rose.svg.empty()) markup += FigureMarkup(rose.svg, rose.caption);
   }
-  markup += "</div>\n" + SymbolKey(content) + SectorMarkup(content, content.siteData);
-  for (const SectorTable& table : content.factors)
-    markup +=
-        SectorMarkup(content, {"Factors and dynamic pressure: " + table.title, table.columns, {}, false});
+  markup += "</div>\n" + SymbolKey(content);
+  if (!content.siteData.columns.empty()) markup += SectorMarkup(content, content.siteData);
+  for (const SectorTable& table : content.factors) {
+    const bool brief = table.columns.size() <= 2;
+    markup += SectorMarkup(
+        content, {(brief ? "" : "Factors and dynamic pressure: ") + table.title, table.columns, {}, false});
+  }
   return markup;
 }
 

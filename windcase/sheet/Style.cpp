@@ -8,7 +8,7 @@ namespace {
 
 constexpr const char* kStyle = R"(:root{color-scheme:light}
 *{box-sizing:border-box}
-body{margin:0 auto;padding:1rem;max-width:60rem;font:14px/1.4 "Liberation Sans","DejaVu Sans",Arial,sans-serif;color:#000;background:#fff}
+body{margin:0 auto;padding:1rem;max-width:60rem;font:.9rem/1.4 "Liberation Sans","DejaVu Sans",Arial,sans-serif;color:#000;background:#fff}
 h1{margin:.1rem 0 .8rem;font-size:1.7rem}
 h2{margin:0 0 .5rem;padding-bottom:.2rem;border-bottom:2px solid #000;font-size:1.15rem;break-after:avoid}
 section{margin-top:2rem}
@@ -27,7 +27,8 @@ dd{margin:0;font-weight:bold}
 .mono dd{font:.74rem/1.5 "Liberation Mono","DejaVu Sans Mono",monospace;overflow-wrap:anywhere}
 .t{overflow-x:auto;margin:0 0 .8rem}
 table{border-collapse:collapse;width:100%;font-size:.78rem;line-height:1.25}
-.slim table{width:auto;min-width:30%}
+.slim{display:inline-block;vertical-align:top;margin-right:1.2rem}
+.slim table{width:auto}
 caption{text-align:left;font-weight:bold;padding:.3rem 0;break-after:avoid}
 th,td{border:.5px solid #777;padding:.12rem .35rem;text-align:left;vertical-align:top}
 th{font-weight:normal}
@@ -36,7 +37,7 @@ thead{display:table-header-group}
 tr{break-inside:avoid}
 .num td,.num tbody th{white-space:nowrap}
 .num td{text-align:right}
-.num thead th{text-align:center}
+.num thead th{text-align:center;white-space:nowrap}
 .o{font-weight:bold}
 .s td,.s th{height:2.1rem;vertical-align:middle}
 .s tbody th{width:14%}.s td:last-child{width:16%}.s td:nth-child(2){width:32%}
@@ -55,14 +56,13 @@ figcaption{font-size:.78rem;text-align:center}
 svg{display:block;max-width:100%;height:auto;margin:0 auto}
 .figs{text-align:center}
 .key{font-size:.78rem;margin:.2rem 0 .6rem}
-.w{margin:-.4rem 0 .9rem;padding:.25rem .5rem .25rem 1.4rem;border-left:3px solid #000;font-size:.76rem;break-inside:avoid}
-.w{list-style:none;padding-left:.5rem}
+.w{margin:0 0 .8rem;padding:.15rem .5rem;border-left:3px solid #000;list-style:none;font-size:.74rem;line-height:1.3;break-inside:avoid}
 .wl{list-style:none;padding:0}
 .wl li{margin-bottom:.35rem;padding-left:2.6rem;text-indent:-2.6rem}
 .wl b{display:inline-block;width:2.6rem;text-indent:0}
 .note{border:1.5px solid #000;padding:.4rem .6rem}
 @media(max-width:40rem){.f div{width:100%;display:block}body{padding:.6rem}}
-@media print{body{padding:0;max-width:none;font-size:10pt}.t{overflow:visible}.n{display:none}section{margin-top:6mm}.page{break-before:page;margin-top:0}.t,.tone{break-inside:avoid}.t.d{break-inside:auto}.cols{columns:2;column-gap:6mm}.cols .t{break-inside:avoid}}
+@media print{html{font-size:13.5px}section{orphans:1;widows:1}body{padding:0;max-width:none}.t{overflow:visible}.n{display:none}section{margin-top:6mm}.page{break-before:page;margin-top:0}.t,.tone,.face{break-inside:avoid}.t.d{break-inside:auto}.cols{columns:2;column-gap:6mm}.cols .t{break-inside:avoid}}
 )";
 
 // Head and foot of each page; where a browser has no such boxes it prints its own page numbers.
