@@ -23,7 +23,7 @@ LOGS="$PWD/build/logs"
 mkdir -p "$LOGS"
 
 PACKAGES=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
-[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format git libbenchmark-dev python3)
+[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libclang-rt-14-dev git libbenchmark-dev pkg-config python3-dev pybind11-dev)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
 check_format() {
@@ -37,12 +37,16 @@ check_installation() {
   cmake --install build/release --prefix "$prefix" &&
     cmake -S tests/install -B "$outside" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH="$prefix" &&
     cmake --build "$outside" --parallel "$JOBS" &&
-    "$outside/outside"
+    "$outside/outside" &&
+    sh tests/doors/check_installed.sh "$prefix" "$PYTHON"
 }
 
+# The interpreter that the packages belong to, whatever else stands first in the path.
+PYTHON=/usr/bin/python3
 RELEASE_OPTIONS=()
 if [ $FULL -eq 1 ]; then
-  RELEASE_OPTIONS=(-DORVE_CHECK_HEADERS=ON -DORVE_BUILD_BENCH=ON)
+  RELEASE_OPTIONS=(-DORVE_CHECK_HEADERS=ON -DORVE_BUILD_BENCH=ON -DORVE_BUILD_PYTHON=ON
+    -DPython3_EXECUTABLE="$PYTHON")
   # Tests that have a long form run it in the release build.
   export ORVE_LONG_TESTS=1
 fi
@@ -54,12 +58,12 @@ step "build, address and undefined-behaviour sanitizers" build_preset debug && t
 if [ $FULL -eq 1 ]; then
   step "build, clang" build_preset clang && test_preset clang
   step "form of the sources" check_format
-  step "installation and an outside program" check_installation
+  step "installation and outside programs" check_installation
   step "demo" ./demo.sh
-  step "recalculation of the engines' cases" python3 tests/recalculation/recalculate.py --check
+  step "recalculation of the engines' cases" "$PYTHON" tests/recalculation/recalculate.py --check
   step "benchmarks, allocations of a warm sheet" build/release/bench/orve_bench --benchmark_min_time=0.05
   if [ -x fuzz/run.sh ]; then
-    step "fuzzing" fuzz/run.sh 60
+    step "fuzzing" fuzz/run.sh 30
   fi
 fi
 

@@ -1,13 +1,14 @@
 // Opening and saving a case, on a file system in memory where there is one, and how a search grows with the
 // file.
 #include "case_file.h"
-#include "portal_building.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
 #include <fstream>
 #include <orve3_bs6399_2.h>
 #include <string>
+
+#include "portal_building.h"
 
 namespace bench {
 

@@ -23,7 +23,8 @@ class ProfileFile {
   /// Stores a value, adding the section and the key if they aren't there. A value is one line: what stands
   /// behind its first line is left out.
   void Value(std::string_view section, std::string_view key, std::string_view value);
-  /// Writes the file back, if a value has changed. On an unwritable file nothing is stored and nothing reported.
+  /// Writes the file back, if a value has changed. On an unwritable file nothing is stored and nothing
+  /// reported.
   void Store(const std::string& path) const;
 
   const std::string& Text() const { return m_text; }

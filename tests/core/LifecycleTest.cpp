@@ -106,7 +106,8 @@ TEST_F(Lifecycle, HandlerMayReplaceWhatIsAtWork) {
 
 TEST_F(Lifecycle, ParentValuesThatDoNotFitKeepTheOldOnes) {
   root->Parent_Span(6);
-  for (const float value : {3e38f, std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN()})
+  for (const float value :
+       {3e38f, std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN()})
     EXPECT_EQ(ErrorOf([&] { root->Parent_Span(value); }), 6);
   EXPECT_EQ(ErrorOf([&] { root->Parent_Type(ParentTypes(70000)); }), 6);
   EXPECT_EQ(root->Parent_Span(), 6);
