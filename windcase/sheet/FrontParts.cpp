@@ -77,8 +77,8 @@ std::string CoverPart(const Content& content, const SheetOptions& options) {
               "each number that they touch. Read them before relying on a number.</p>\n";
   if (content.refusals > 0)
     markup += "<p class=\"note\"><b>Not complete:</b> " +
-              Plural(static_cast<std::size_t>(content.refusals), "zone or wind direction") +
-              " was refused and has no load.</p>\n";
+              Plural(static_cast<std::size_t>(content.refusals), "result") +
+              " of zones or cantilevers can't be given; the reasons stand at their places.</p>\n";
   return markup;
 }
 

@@ -1,0 +1,37 @@
+// Sheets through the real program.
+#include "windcase/Program.h"
+
+namespace orve::test {
+
+namespace {
+
+bool Has(const std::string& text, const char* part) {
+  return text.find(part) != std::string::npos;
+}
+
+TEST_F(Program, WritesASheetAndChecksItAgainstItsCase) {
+  MakeShed("shed.wlc");
+  Output({"sheet", "shed.wlc", "--project", "Mill <A> & Sons"});
+  const std::string sheet = Content("shed.html");
+  EXPECT_TRUE(Has(sheet, "Mill &lt;A&gt; &amp; Sons"));
+
+  EXPECT_EQ(Run({"sheet", "shed.wlc"}).code, 3);
+  EXPECT_EQ(Content("shed.html"), sheet);
+  Output({"sheet", "shed.wlc", "--project", "Mill <A> & Sons", "-o", "again.html"});
+  EXPECT_EQ(Content("again.html"), sheet);
+
+  EXPECT_TRUE(Has(Output({"check", "shed.wlc", "--sheet", "shed.html"}), "is the one that this case gives"));
+  Write("again.html", sheet + " ");
+  const Ending changed = Run({"check", "shed.wlc", "--sheet", "again.html"});
+  EXPECT_EQ(changed.code, 1);
+  EXPECT_TRUE(Has(changed.out, "was changed after it was made"));
+  Output({"set", "shed.wlc", "Roof_Height=7.25"});
+  const Ending other = Run({"check", "shed.wlc", "--sheet", "shed.html"});
+  EXPECT_EQ(other.code, 1);
+  EXPECT_TRUE(Has(other.out, "aren't those of the sheet"));
+  EXPECT_EQ(Run({"check", "shed.wlc", "--sheet", "shed.wlc"}).code, 3);
+}
+
+}  // namespace
+
+}  // namespace orve::test
