@@ -44,7 +44,11 @@ class Printer {
   static std::string Head(const Quantity& quantity) {
     std::string head = quantity.name;
     if (quantity.value) head = quantity.symbol + "  " + head;
-    if (!quantity.text.empty()) head += (quantity.value ? " = " : ": ") + quantity.text;
+    // The library prints nothing for a load of 0.
+    if (quantity.value)
+      head += " = " + (quantity.text.empty() ? "0" : quantity.text);
+    else if (!quantity.text.empty())
+      head += ": " + quantity.text;
     if (!quantity.unit.empty()) head += " " + quantity.unit;
     if (!quantity.clause.empty()) head += "  [" + quantity.clause + "]";
     if (quantity.layer == Layer::Input) head += "  (input)";

@@ -203,6 +203,8 @@ TEST_F(Program, ExplainsALoadDownToItsTables) {
         "Table 22", "[standing in]", "Roof, Face 1, zone A: +0.348, -0.851 kN/m\u00B2"})
     EXPECT_TRUE(Has(tree, part)) << part;
   EXPECT_FALSE(Has(Output({"explain", "shed.wlc", "roof", "Face 1", "0", "--depth", "2"}), "Table 22"));
+  EXPECT_TRUE(
+      Has(Output({"explain", "shed.wlc", "walls", "2", "A (face 1)"}), "overall pressure = 0 kN/m\u00B2"));
   EXPECT_TRUE(Has(Output({"explain", "shed.wlc", "roof", "1", "A", "--json"}), "\"see\": "));
 }
 
