@@ -1,4 +1,6 @@
 // Zones on plans and elevations: they cover their surface, each with the size that the library gives.
+#include <array>
+#include <cmath>
 #include <sheet/Content.h>
 #include <sheet/Drawings.h>
 
@@ -111,6 +113,25 @@ TEST(RoofLayout, PutsZonesWhereTheStandardsFiguresHaveThem) {
   ExpectPieces(
       RoofTypes::Duo_pitched_roof, Faces::Face_2, gable,
       {{"A", 2, 10, {0.5, 2.5}}, {"B", 2, 10, {0.5, 7.5}}, {"C", 2, 80, {3, 5}}, {"D", 2, 500, {17.5, 5}}});
+}
+
+// Strips along hips are as wide as those along eaves and ridge, so that an eaves cuts them at the root of
+// two.
+TEST(RoofLayout, DividesTheFourSlopesOfAHippedRoof) {
+  ZoneSizes zones;
+  for (const char* name : {"A", "B", "C", "E", "F", "G", "H", "I", "J"})
+    zones.push_back({name, true, 1.2, 6});
+  const double strip = 1.2 * std::sqrt(2.0);
+  const double ridge = (2 * 10.6 - 10 - 2 * strip) * 1.2;
+  const Pieces pieces = LayOutRoof(RoofTypes::Hipped_roof, Faces::Face_1, zones, 30, 20);
+  std::array<double, 9> area{};
+  for (const Piece& piece : pieces) area[piece.zone] += Area(piece.outline);
+  EXPECT_NEAR(area[0] + area[1] + area[2], 200, 1e-9);  // windward slope
+  EXPECT_NEAR(area[1], (30 - 12) * 1.2, 1e-9);
+  EXPECT_NEAR(area[3], 20 * strip, 1e-9);
+  EXPECT_NEAR(area[4], ridge, 1e-9);
+  EXPECT_NEAR(area[5], 200 - 20 * strip - ridge, 1e-9);
+  EXPECT_NEAR(area[6] + area[7] + area[8], 200, 1e-9);  // both side slopes
 }
 
 TEST(RoofLayout, CutsAtTheEdgeWhatDoesNotFit) {

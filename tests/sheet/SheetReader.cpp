@@ -105,7 +105,8 @@ std::vector<std::vector<std::string>> RowsOf(const std::string& html, const std:
 std::string FaultsOf(const std::string& html) {
   if (const std::string fault = CheckNesting(html); !fault.empty()) return fault;
   if (const std::string fault = CheckLinks(html); !fault.empty()) return fault;
-  for (const char* forbidden : {"<script", " src=", "url(", "@import", "<link", " style=", ">nan", "= nan", "\"nan", "+nan", ">inf", "= inf"})
+  for (const char* forbidden : {"<script", " src=", "url(", "@import", "<link", " style=", ">nan", "= nan",
+                                "\"nan", "+nan", ">inf", "= inf"})
     if (Has(html, forbidden)) return forbidden;
   for (const std::string& head : Between(html, "<th", ">"))
     if (head != "ead" && !Has(head, "scope=")) return "a head without scope: " + head;

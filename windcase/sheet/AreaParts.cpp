@@ -19,8 +19,9 @@ std::string WithoutUnit(const Marked& load) {
 }
 
 void Gather(Marks& all, const ZoneRow& row) {
-  for (const Marks* marks : {&row.cpePressure.marks, &row.cpeSuction.marks, &row.q.marks, &row.Ca.marks,
-                             &row.external.marks, &row.internal.marks, &row.overall.marks, &row.refusal})
+  for (const Marks* marks :
+       {&row.dimensions.marks, &row.cpePressure.marks, &row.cpeSuction.marks, &row.q.marks, &row.Ca.marks,
+        &row.external.marks, &row.internal.marks, &row.overall.marks, &row.refusal})
     all.insert(all.end(), marks->begin(), marks->end());
 }
 
@@ -35,8 +36,8 @@ std::string ZoneTable(const AreaZones& area, const FaceZones& face, Marks& marks
   for (const ZoneRow& row : face.rows) {
     Gather(marks, row);
     body += RowHead(Escaped(row.name) + MarkMarkup(row.refusal)) +
-            Cell(row.dimensions.empty() ? "the rest" : Escaped(row.dimensions)) + Cell(row.windFrom) +
-            Cell(MarkedMarkup(row.cpePressure)) + Cell(MarkedMarkup(row.cpeSuction)) +
+            Cell(row.dimensions.text.empty() ? "the rest" : MarkedMarkup(row.dimensions)) +
+            Cell(row.windFrom) + Cell(MarkedMarkup(row.cpePressure)) + Cell(MarkedMarkup(row.cpeSuction)) +
             Cell(MarkedMarkup(row.q)) + Cell(MarkedMarkup(row.Ca)) + Cell(WithoutUnit(row.external));
     if (!parapet) body += Cell(WithoutUnit(row.internal));
     body += "<td class=\"o\">" + WithoutUnit(row.overall) + "</td></tr>\n";

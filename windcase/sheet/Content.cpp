@@ -39,7 +39,7 @@ void AddZones(FactList& facts, const AreaZones& area) {
   for (const FaceZones& face : area.faces)
     for (const ZoneRow& row : face.rows) {
       const std::string key = area.title + "/" + std::string(PublishedText(face.face)) + "/" + row.name + "/";
-      facts.Add(key + "size", row.dimensions);
+      facts.Add(key + "size", row.dimensions.text);
       for (const Marked* number :
            {&row.cpePressure, &row.cpeSuction, &row.q, &row.Ca, &row.external, &row.internal, &row.overall})
         facts.Add(key, number->text);

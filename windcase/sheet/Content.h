@@ -48,7 +48,7 @@ struct SectorTable {
 struct ZoneRow {
   std::int16_t zone = 0;
   std::string name;
-  std::string dimensions;
+  Marked dimensions;
   std::string windFrom;  ///< Number of the face that the wind blows on.
   Marked cpePressure, cpeSuction, q, Ca, external, internal, overall;
   float pressure = 0;  ///< Overall loads, kN/m².

@@ -40,7 +40,8 @@ std::string GoverningRow(const AreaZones& area, const Governing& governing, cons
   return head +
          Cell("<b>" + Escaped(FormatSignedLoad(governing.load)) + "</b>" + MarkMarkup(row.overall.marks)) +
          Cell(Escaped(std::string(PublishedText(area.faces[face].face)))) + Cell(Escaped(row.name)) +
-         Cell(Escaped(row.dimensions.empty() ? "the rest of the surface" : row.dimensions)) + "</tr>\n";
+         Cell(row.dimensions.text.empty() ? "the rest of the surface" : MarkedMarkup(row.dimensions)) +
+         "</tr>\n";
 }
 
 std::string Summary(const Content& content) {

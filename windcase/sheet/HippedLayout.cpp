@@ -37,8 +37,8 @@ void Windward(Cutter& cut, Polygon slope, double breadth, double strip, double c
 
 // Strips beside the two hips, then one beside the ridge where there is one across the wind.
 void Leeward(Cutter& cut, Polygon slope, double breadth, double depth, double strip, double besideHip) {
-  cut.Add("E", CutOff(slope, {-1, -1}, besideHip - depth));
-  cut.Add("E", CutOff(slope, {1, -1}, besideHip + breadth - depth));
+  cut.Add("E", CutOff(slope, {1, 1}, depth + besideHip));
+  cut.Add("E", CutOff(slope, {-1, 1}, depth - breadth + besideHip));
   cut.Add("F", CutOff(slope, {0, 1}, depth / 2 + strip));
   cut.Add("G", slope);
 }

@@ -75,6 +75,16 @@ void ReadLoads(ZoneRow& row, BuildingAreas area, Faces face, Warnings& warnings)
   MarkRow(row, warnings);
 }
 
+// The sizes that the loads have: cantilevers along the wind take their length out of the zones at the edge.
+void ReadSize(ZoneRow& row, BuildingAreas area, Faces face, Warnings& warnings) {
+  row.dimensions.text =
+      RequireCurrentCase().OverallAppliedLoads()->Hybrid_ZoneDimensions(area, face, row.zone);
+  if (row.dimensions.text.find('-') != std::string::npos)
+    warnings.Mark(
+        row.dimensions.marks,
+        "A length below 0: the zone lies wholly on the cantilever, or the surface is too small for it");
+}
+
 ZoneRow ReadZone(BuildingAreas area, Faces face, std::int16_t zone, Warnings& warnings) {
   const auto external = RequireCurrentCase().ExternalCoefficients();
   ZoneRow row;
@@ -85,7 +95,7 @@ ZoneRow ReadZone(BuildingAreas area, Faces face, std::int16_t zone, Warnings& wa
   row.size = {row.name, !external->Hybrid_ZoneDimensions(area, face, zone).empty(), size.DimensionX,
               size.DimensionY};
   try {
-    row.dimensions = RequireCurrentCase().OverallAppliedLoads()->Hybrid_ZoneDimensions(area, face, zone);
+    ReadSize(row, area, face, warnings);
     ReadLoads(row, area, face, warnings);
   } catch (const Error& error) {
     for (Marked* number :

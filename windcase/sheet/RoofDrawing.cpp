@@ -10,8 +10,8 @@ namespace orve::sheet {
 namespace {
 
 constexpr double kCanvas = 332;
-constexpr double kMargin = 36;
-constexpr double kFoot = 22;
+constexpr double kMargin = 31;
+constexpr double kFoot = 16;
 constexpr double kTallest = 200;
 
 bool IsLength(double value) {

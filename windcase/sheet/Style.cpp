@@ -62,7 +62,9 @@ svg{display:block;max-width:100%;height:auto;margin:0 auto}
 .wl b{display:inline-block;width:2.6rem;text-indent:0}
 .note{border:1.5px solid #000;padding:.4rem .6rem}
 @media(max-width:40rem){.f div{width:100%;display:block}body{padding:.6rem}}
-@media print{html{font-size:13.5px}section{orphans:1;widows:1}body{padding:0;max-width:none}.t{overflow:visible}.n{display:none}section{margin-top:6mm}.page{break-before:page;margin-top:0}.t,.tone,.face{break-inside:avoid}.t.d{break-inside:auto}.cols{columns:2;column-gap:6mm}.cols .t{break-inside:avoid}}
+.w li{break-inside:avoid}
+@media(min-width:50rem){.w{columns:2;column-gap:1.2rem}}
+@media print{.w{columns:2;column-gap:5mm}html{font-size:13.5px}section{orphans:1;widows:1}body{padding:0;max-width:none}.t{overflow:visible}.n{display:none}section{margin-top:6mm}.page{break-before:page;margin-top:0}.t,.tone,.face{break-inside:avoid}.t.d{break-inside:auto}.cols{columns:2;column-gap:6mm}.cols .t{break-inside:avoid}}
 )";
 
 // Head and foot of each page; where a browser has no such boxes it prints its own page numbers.

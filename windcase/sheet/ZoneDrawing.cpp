@@ -43,23 +43,36 @@ double WidthOf(const std::string& text) {
   return kLetter * static_cast<double>(text.size());
 }
 
+// The room for a label: less than the box for a zone that doesn't fill it.
+struct Room {
+  double width;
+  double height;
+};
+
+Room RoomIn(const Polygon& outline) {
+  const Box box = BoxOf(outline);
+  const double share = Area(outline) / (box.Width() * box.Height());
+  constexpr double full = 0.85;
+  return share > full ? Room{box.Width(), box.Height()} : Room{box.Width() * share, box.Height() * share};
+}
+
 // The largest form of the label that fits; a name alone may cover the lines of a small zone.
 void Label(Svg& svg, const Polygon& outline, const ZoneRow& row) {
-  const Box box = BoxOf(outline);
+  const Room room = RoomIn(outline);
   const Point centre = Centre(outline);
   const std::string name = ShortName(row.name);
   const std::string loads = LoadsOf(row);
   const std::string line = name + "  " + loads;
   constexpr double lineHeight = kFont + 2;
-  if (box.Height() >= 2.4 * lineHeight && box.Width() >= std::max(WidthOf(name), WidthOf(loads))) {
+  if (room.height >= 2.4 * lineHeight && room.width >= std::max(WidthOf(name), WidthOf(loads))) {
     svg.Text({centre.x, centre.y - 2}, name, {kFont, "middle", true});
     svg.Text({centre.x, centre.y + lineHeight - 2}, loads, {kFont, "middle"});
-  } else if (box.Height() >= lineHeight && box.Width() >= WidthOf(line)) {
+  } else if (room.height >= lineHeight && room.width >= WidthOf(line)) {
     svg.Text({centre.x, centre.y + 3}, line, {kFont, "middle"});
-  } else if (box.Width() >= lineHeight && box.Height() >= WidthOf(line)) {
+  } else if (room.width >= lineHeight && room.height >= WidthOf(line)) {
     svg.Text({centre.x + 3, centre.y}, line, {kFont, "middle", false, true});
   } else {
-    const bool fits = box.Width() >= WidthOf(name) && box.Height() >= lineHeight;
+    const bool fits = room.width >= WidthOf(name) && room.height >= lineHeight;
     svg.Text({centre.x, centre.y + 3}, name, {fits ? kFont : kFont - 1, "middle", true, false, !fits});
   }
 }
@@ -102,7 +115,7 @@ std::string DescribeZones(const FaceZones& zones) {
   std::string text;
   for (const ZoneRow& row : zones.rows) {
     text += row.name;
-    if (!row.dimensions.empty()) text += ", " + row.dimensions;
+    if (!row.dimensions.text.empty()) text += ", " + row.dimensions.text;
     text += ": " +
             (row.overall.text.empty() ? std::string("no load")
              : row.refusal.empty()    ? row.overall.text
