@@ -1,0 +1,312 @@
+// A C++ host of the registered library, by late and by early binding.
+#include <cmath>
+#include <cstring>
+
+#include "BareCase.h"
+#include "Checks.h"
+#include "LateBound.h"
+#include "ORVE3_BS6399_2.h"
+#include "Sink.h"
+
+using namespace orve::test;
+using orve::com::ComPointer;
+
+namespace {
+
+Checks g_checks;
+
+template <class Interface>
+ComPointer<Interface> As(IUnknown* object) {
+  ComPointer<Interface> result;
+  if (object != nullptr)
+    object->QueryInterface(__uuidof(Interface), reinterpret_cast<void**>(result.Receive()));
+  return result;
+}
+
+void LateBinding(const Late& root) {
+  const Late wind = root.Object(L"DynamicPressure");
+  const Late zones = root.Object(L"ExternalCoefficients");
+  const Late loads = root.Object(L"OverallAppliedLoads");
+
+  g_checks.True(
+      root.Object(L"BuildingDimensions").Dispatch() == root.Object(L"BuildingDimensions").Dispatch(),
+      "an object is the same one at every read");
+  g_checks.Equal(zones.Get(L"HYBRID_ZONEDESCRIPTION", {0, 0, 0}).value.Text(), "A", "a name in another case");
+  g_checks.Equal(
+      zones.Get(L"Hybrid_ZoneDescription", {}, {{L"zoneindex", 2}, {L"BuildingArea", 0}, {L"Face", 0}})
+          .value.Text(),
+      zones.Get(L"Hybrid_ZoneDescription", {0, 0, 2}).value.Text(), "named arguments in any order");
+  zones.Put(L"BuildingArea", {1});
+  g_checks.Equal(zones.Get(L"ZoneIndexTo", {Argument(), 0}).value.Text(),
+                 zones.Get(L"ZoneIndexTo", {1, 0}).value.Text(), "an argument left out in the middle");
+  g_checks.True(zones.Get(L"Hybrid_ZoneDimensionX", {0, 0, 0}).value.Type() == VT_R4, "a result's type");
+
+  wind.Put(L"CrestHeight_Z", {3, 12.5});
+  g_checks.Equal(wind.Get(L"CrestHeight_Z", {3}).value.Text(), "12.5", "indexed put and get");
+  g_checks.Equal(wind.Put(L"CrestHeight_Z", {3, "x"}).number, 13L, "a text that is no number");
+  VARIANT sector;
+  long three = 3;
+  V_VT(&sector) = VT_BYREF | VT_I4;
+  V_I4REF(&sector) = &three;
+  Argument byReference;
+  *byReference.Get() = sector;
+  g_checks.Equal(wind.Get(L"CrestHeight_Z", {byReference}).value.Text(), "12.5", "an index by reference");
+
+  const Outcome nine = loads.Get(L"CantileverZoneDescription", {99});
+  g_checks.Equal(nine.result, static_cast<HRESULT>(DISP_E_EXCEPTION), "an error is an exception");
+  g_checks.Equal(nine.number, 9L, "its number");
+  g_checks.Equal(nine.text, "Subscript out of range: cantilever zone 99, there is none", "its text");
+  g_checks.Equal(nine.source, "ORVE3_BS6399_2", "its source");
+  g_checks.Equal(loads.Get(L"CantileverZoneDescription").number, 449L, "an argument that must be given");
+  g_checks.Equal(loads.Get(L"CantileverZoneDescription", {1, 2}).number, 450L, "one argument too many");
+  g_checks.Equal(root.Put(L"LocationCorrect", {true}).number, 438L, "a let of a read-only property");
+  g_checks.Equal(root.Get(L"NoSuchMember").result, static_cast<HRESULT>(DISP_E_UNKNOWNNAME),
+                 "an unknown name");
+  g_checks.Equal(zones.Get(L"ZoneIndexTo", {}, {{L"Sector", 1}}).result,
+                 static_cast<HRESULT>(DISP_E_UNKNOWNNAME), "an unknown argument's name");
+  g_checks.Equal(root.Get(L"Created").value.Type(), static_cast<VARTYPE>(VT_DATE), "a date's type");
+
+  const Late dimensions = root.Object(L"BuildingDimensions");
+  g_checks.Equal(root.PutRef(L"BuildingDimensions", dimensions.Dispatch()).result, S_OK, "an object is set");
+  g_checks.Equal(root.Put(L"BuildingDimensions", {zones.Dispatch()}).number, 13L,
+                 "an object of another class");
+  g_checks.Equal(root.PutRef(L"BuildingDimensions", nullptr).number, 91L, "no object");
+}
+
+/// The -1 that stands for an argument left out; no member of an enumeration.
+template <class Enumeration>
+Enumeration LeftOut() {
+  const long value = -1;
+  Enumeration leftOut;
+  static_assert(sizeof leftOut == sizeof value);
+  std::memcpy(&leftOut, &value, sizeof value);
+  return leftOut;
+}
+
+std::string Row(const CantileverZones& row) {
+  return Narrow(row.Cantilever_ZoneDescription) + "; " + Narrow(row.Cantilever_ZoneDimensions) + "; " +
+         Narrow(row.Cantilever_OverallAppliedLoads);
+}
+
+void EarlyBinding(IclsCurrentCase& root) {
+  ComPointer<IclsExternalCoefficients> zones;
+  ComPointer<IclsOverallAppliedLoads> loads;
+  ComPointer<IclsDynamicPressure> wind;
+  ComPointer<IclsBuildingDimensions> building;
+  root.get_ExternalCoefficients(zones.Receive());
+  root.get_OverallAppliedLoads(loads.Receive());
+  root.get_DynamicPressure(wind.Receive());
+  root.get_BuildingDimensions(building.Receive());
+
+  RoofTypes roof{};
+  building->put_RoofType(RoofTypes_Mono_pitched_roof);
+  building->get_RoofType(&roof);
+  g_checks.True(roof == RoofTypes_Mono_pitched_roof, "an enumeration");
+  building->put_RoofType(RoofTypes_Flat_roof_with_sharp_eaves);
+
+  ZoneDimensionsXY size{};
+  const auto present = LeftOut<ResultsScreens>();
+  g_checks.Equal(zones->get_Hybrid_ZoneDimensionsXY(BuildingAreas_baRoof, Faces_Face_1, 0, present, &size),
+                 S_OK, "a record");
+  float length = 0;
+  zones->get_Hybrid_ZoneDimensionX(BuildingAreas_baRoof, Faces_Face_1, 0, present, &length);
+  g_checks.True(size.DimensionX == length && length > 0, "a record's fields");
+
+  float steps[] = {5, 5, 5, 1, 2, 3, 2, 4};
+  float load = 0;
+  loads->ExternalBayLoad(&steps[0], &steps[1], &steps[2], &steps[3], &steps[4], &steps[5], &steps[6],
+                         &steps[7], &load);
+  g_checks.True(load == 1.6f && steps[0] == 5, "bay loads by reference");
+  g_checks.Equal(loads->ExternalBayLoad(nullptr, &steps[1], &steps[2], &steps[3], &steps[4], &steps[5],
+                                        &steps[6], &steps[7], &load),
+                 static_cast<HRESULT>(0x800A0005), "no address for an argument");
+  steps[0] = 0;
+  g_checks.Equal(loads->ExternalBayLoad(&steps[0], &steps[1], &steps[2], &steps[3], &steps[4], &steps[5],
+                                        &steps[6], &steps[7], &load),
+                 static_cast<HRESULT>(steps[6] > 0 ? S_OK : 0x800A000B),
+                 "a bay of length 0 ends in the first step");
+
+  BSTR text = nullptr;
+  const HRESULT failed = loads->get_CantileverZoneDescription(99, &text);
+  g_checks.Equal(failed, static_cast<HRESULT>(0x800A0009), "an error's result code");
+  ComPointer<IErrorInfo> information;
+  BSTR message = nullptr;
+  GUID identity{};
+  g_checks.True(::GetErrorInfo(0, information.Receive()) == S_OK, "an error's information");
+  if (information) {
+    information->GetDescription(&message);
+    information->GetGUID(&identity);
+  }
+  g_checks.Equal(TakeText(message), "Subscript out of range: cantilever zone 99, there is none", "its text");
+  g_checks.True(identity == __uuidof(IclsOverallAppliedLoads) && text == nullptr, "its interface");
+  g_checks.Equal(loads->get_CantileverZoneDescription(0, nullptr), static_cast<HRESULT>(E_POINTER),
+                 "no address for a result");
+
+  float crest = 0;
+  wind->put_CrestHeight_Z(WindSectors_Degrees_60, 7.25f);
+  wind->get_CrestHeight_Z(WindSectors_Degrees_60, &crest);
+  g_checks.True(crest == 7.25f, "indexed put and get");
+}
+
+/// The record of wall pressures, and the tables that come from it.
+void Records(IclsCurrentCase& root) {
+  ComPointer<IclsOverallAppliedLoads> loads;
+  root.get_OverallAppliedLoads(loads.Receive());
+  SAFEARRAY* none = nullptr;
+  loads->GetCantileverZones(&none);
+  LONG high = 0;
+  ::SafeArrayGetUBound(none, 1, &high);
+  g_checks.Equal(high, -1L, "an empty array");
+  ::SafeArrayDestroy(none);
+
+  ComPointer<IclsCantileverWindLoads> own;
+  g_checks.Equal(
+      ::CoCreateInstance(__uuidof(clsCantileverWindLoads), nullptr, CLSCTX_INPROC_SERVER,
+                         __uuidof(IclsCantileverWindLoads), reinterpret_cast<void**>(own.Receive())),
+      S_OK, "the second class that a host can create");
+  ExternalPressure pressures{};
+  own->get_ExternalPressures(&pressures);
+  g_checks.Equal(Narrow(pressures.Wall4_C_Face_3.Zone_Dimensions), "0", "the record's defaults");
+  for (CantileverZone* zone = &pressures.Wall2_Windward; zone <= &pressures.Wall4_C_Face_3; ++zone) {
+    ::SysReAllocString(&zone->Zone_Dimensions, L"3.6 m");
+    ::SysReAllocString(&zone->Zone_ExternalPressures, L"+0.512 kN/m\u00B2");
+  }
+  g_checks.Equal(own->put_ExternalPressures(&pressures), S_OK, "a record is let");
+  g_checks.Equal(root.putref_CantileverWindloads(own.Get()), S_OK, "the object is set");
+
+  VARIANT_BOOL found = VARIANT_FALSE;
+  loads->CantileverValues(BuildingAreas_baRoof, Faces_Face_1, VARIANT_FALSE, &found);
+  g_checks.True(found == VARIANT_TRUE, "cantilever zones are found");
+  SAFEARRAY* zones = nullptr;
+  loads->GetCantileverZones(&zones);
+  CantileverZones* rows = nullptr;
+  if (zones != nullptr) ::SafeArrayAccessData(zones, reinterpret_cast<void**>(&rows));
+  g_checks.Equal(rows == nullptr ? "" : Row(rows[0]), "A (Cant 2); 1.500 m, 1.400 m; -1.869 kN/m\u00B2",
+                 "the first row of an array of records");
+  if (zones != nullptr) ::SafeArrayUnaccessData(zones);
+  ::SafeArrayDestroy(zones);
+
+  // The record once more by late binding, there as an array of its fields too.
+  const Late late(own.Get());
+  const Outcome record = late.Get(L"ExternalPressures");
+  g_checks.True(record.value.Type() == VT_RECORD && V_RECORDINFO(&record.value.Held()) != nullptr,
+                "a record's type");
+  const auto* copy = static_cast<const ExternalPressure*>(V_RECORD(&record.value.Held()));
+  g_checks.True(copy != nullptr && Narrow(copy->Wall2_Leeward.Zone_Dimensions) == "3.6 m", "a record's copy");
+  g_checks.Equal(late.Put(L"ExternalPressures", {record.value}).result, S_OK,
+                 "a record is let by late binding");
+}
+
+void Events(const Late& root, Sink& sink) {
+  ComPointer<IConnectionPointContainer> container = As<IConnectionPointContainer>(root.Dispatch());
+  ComPointer<IConnectionPoint> point;
+  g_checks.Equal(container->FindConnectionPoint(IID_IDispatch, point.Receive()), CONNECT_E_NOCONNECTION,
+                 "a connection point that isn't there");
+  container->FindConnectionPoint(__uuidof(IclsCurrentCaseEvents), point.Receive());
+  root.Put(L"IsDirty", {true});  // Without a sink.
+  DWORD cookie = 0;
+  g_checks.Equal(point->Advise(&sink, &cookie), S_OK, "a sink is connected");
+  root.Put(L"Description", {"A hall"});
+  root.Put(L"Location", {"C:\\x.wlc"});
+  root.Put(L"IsDirty", {false});
+  g_checks.Equal(sink.Take(), "DirtyUpdated(True) LocationUpdated(C:\\x.wlc) DirtyUpdated(False)",
+                 "events in their order");
+  sink.Fail(true);
+  const Outcome failed = root.Put(L"IsDirty", {true});
+  g_checks.Equal(failed.number, 1234L, "an error of the host's handler comes to the caller");
+  g_checks.Equal(failed.text, "The handler fails", "its text");
+  sink.Fail(false);
+  sink.Take();
+  g_checks.Equal(point->Unadvise(cookie), S_OK, "the sink is disconnected");
+  g_checks.Equal(sink.Count(), 1ul, "nothing holds the sink");
+  root.Put(L"IsDirty", {false});
+  g_checks.Equal(sink.Take(), "", "no event behind it");
+}
+
+void Files(const Late& root, const std::string& folder) {
+  const std::string file = folder + "\\S\u00FCd\u03A9 hall.wlc";
+  const Late building = root.Object(L"BuildingDimensions");
+  root.Put(L"Description", {"m\u00B2 \u03A9"});
+  building.Put(L"Roof_Height", {7.5});
+  root.Put(L"Location", {file});
+  g_checks.Equal(root.Get(L"Save").text, "", "a case is saved");
+  g_checks.Equal(root.Get(L"Save").text, "", "and saved again over the first file");
+  root.Get(L"Clear");
+  const Outcome opened = root.Get(L"OpenExisting", {file});
+  g_checks.Equal(opened.value.Text() + opened.text, "True", "and opened");
+  g_checks.Equal(root.Get(L"Location").value.Text(), file, "under its own name");
+  g_checks.Equal(root.Get(L"Description").value.Text(), "m\u00B2 \u03A9", "with its description");
+  g_checks.Equal(root.Object(L"BuildingDimensions").Get(L"Roof_Height").value.Text(), "7.5",
+                 "and its dimensions");
+  g_checks.True(std::abs(V_DATE(&root.Get(L"Modified").value.Held()) -
+                         V_DATE(&root.Get(L"Created").value.Held())) < 0.01,
+                "dates come back");
+  g_checks.Equal(root.Object(L"WindCaseList").Get(L"Count").value.Text(), "1", "the recent list");
+
+  ::SetFileAttributesW(Wide(file).c_str(), FILE_ATTRIBUTE_READONLY);
+  root.Put(L"Description", {"another"});
+  g_checks.Equal(root.Get(L"Save").number, 70L, "a protected file");
+  g_checks.Equal(root.Get(L"IsDirty").value.Text(), "True", "leaves the case unsaved");
+  ::SetFileAttributesW(Wide(file).c_str(), FILE_ATTRIBUTE_NORMAL);
+  root.Put(L"Location", {folder + "\\nowhere\\x.wlc"});
+  g_checks.Equal(root.Get(L"Save").number, 76L, "a folder that isn't there");
+  WIN32_FIND_DATAW left;
+  g_checks.True(::FindFirstFileW(Wide(folder + "\\.orve*").c_str(), &left) == INVALID_HANDLE_VALUE,
+                "no temporary file is left");
+}
+
+ComPointer<IDispatch> CreateRoot() {
+  ComPointer<IDispatch> root;
+  CLSID identity{};
+  g_checks.Equal(::CLSIDFromProgID(L"ORVE3_BS6399_2.clsCurrentCase", &identity), S_OK, "the class's name");
+  g_checks.True(identity == __uuidof(clsCurrentCase), "the class's identity");
+  g_checks.Equal(::CoCreateInstance(identity, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                    reinterpret_cast<void**>(root.Receive())),
+                 S_OK, "a root object");
+  return root;
+}
+
+void TypeInformation(IDispatch* root) {
+  ComPointer<ITypeInfo> information;
+  BSTR name = nullptr;
+  g_checks.Equal(root->GetTypeInfo(0, 0, information.Receive()), S_OK, "type information");
+  if (information) information->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
+  g_checks.Equal(TakeText(name), "IclsCurrentCase", "the interface's name");
+  const ComPointer<IProvideClassInfo2> provider = As<IProvideClassInfo2>(root);
+  GUID events{};
+  g_checks.True(provider && SUCCEEDED(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events)) &&
+                    events == __uuidof(IclsCurrentCaseEvents),
+                "the events' identity");
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  const std::string folder = count > 1 ? arguments[1] : ".";
+  ::CoInitialize(nullptr);
+  {
+    Sink sink;
+    ComPointer<IDispatch> root = CreateRoot();
+    if (!root) return g_checks.Close();
+    const Late late(root.Get());
+    root = ComPointer<IDispatch>();
+    TypeInformation(late.Dispatch());
+    Events(late, sink);
+    SetBareCase(late);
+    CheckBareCase(late, g_checks);
+    LateBinding(late);
+    const ComPointer<IclsCurrentCase> early = As<IclsCurrentCase>(late.Dispatch());
+    EarlyBinding(*early.Get());
+    Records(*early.Get());
+    Files(late, folder);
+  }
+  // What the library holds by itself doesn't keep it loaded.
+  const HMODULE library = ::GetModuleHandleW(L"ORVE3_BS6399_2.dll");
+  using CanUnload = HRESULT(STDAPICALLTYPE*)();
+  const auto canUnload =
+      reinterpret_cast<CanUnload>(reinterpret_cast<void*>(::GetProcAddress(library, "DllCanUnloadNow")));
+  g_checks.True(canUnload != nullptr && canUnload() == S_OK,
+                "with its objects gone the library can be unloaded");
+  ::CoUninitialize();
+  return g_checks.Close();
+}

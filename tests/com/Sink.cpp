@@ -1,0 +1,35 @@
+#include "Sink.h"
+
+namespace orve::test {
+
+HRESULT Sink::QueryInterface(REFIID identity, void** result) {
+  const bool known =
+      identity == IID_IUnknown || identity == IID_IDispatch || identity == __uuidof(IclsCurrentCaseEvents);
+  *result = known ? this : nullptr;
+  if (!known) return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+HRESULT Sink::Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*,
+                     EXCEPINFO* exception, UINT*) {
+  static constexpr const char* names[] = {"DirtyUpdated", "LocationUpdated", "WindCaseListUpdated",
+                                          "WindCaseOpened", "WindCaseSaved"};
+  if (m_fail) {
+    *exception = {};
+    exception->scode = static_cast<SCODE>(0x800A0000 | 1234);
+    exception->bstrDescription = NewText("The handler fails");
+    return DISP_E_EXCEPTION;
+  }
+  if (!m_events.empty()) m_events += ' ';
+  m_events += std::string(names[number - 1]) + '(';
+  if (parameters->cArgs > 0) {
+    Argument value;
+    ::VariantCopy(value.Get(), &parameters->rgvarg[0]);
+    m_events += value.Text();
+  }
+  m_events += ')';
+  return S_OK;
+}
+
+}  // namespace orve::test
