@@ -193,7 +193,7 @@ void Records(IclsCurrentCase& root) {
                 "a record's type");
   const auto* copy = static_cast<const ExternalPressure*>(V_RECORD(&record.value.Held()));
   g_checks.True(copy != nullptr && Narrow(copy->Wall2_Leeward.Zone_Dimensions) == "3.6 m", "a record's copy");
-  g_checks.Equal(late.Put(L"ExternalPressures", {record.value}).result, S_OK,
+  g_checks.Equal(late.Put(L"ExternalPressures", {Argument::RecordOf(record.value)}).result, S_OK,
                  "a record is let by late binding");
 }
 
@@ -255,6 +255,82 @@ void Files(const Late& root, const std::string& folder) {
                 "no temporary file is left");
 }
 
+/// A user who answers the next dialog: a button, or a file's name and the button.
+class User {
+ public:
+  User(int button, const std::string& file)
+      : m_button(button), m_file(Wide(file)), m_thread(::CreateThread(nullptr, 0, &Run, this, 0, nullptr)) {}
+  ~User() {
+    ::WaitForSingleObject(m_thread, INFINITE);
+    ::CloseHandle(m_thread);
+  }
+  User(const User&) = delete;
+  User& operator=(const User&) = delete;
+
+  /// The dialog's title.
+  std::string Seen() {
+    ::WaitForSingleObject(m_thread, INFINITE);
+    return m_seen;
+  }
+
+ private:
+  static DWORD WINAPI Run(void* user) {
+    static_cast<User*>(user)->Answer();
+    return 0;
+  }
+  void Answer() {
+    HWND dialog = nullptr;
+    for (int attempt = 0; attempt < 100 && dialog == nullptr; ++attempt) {
+      ::Sleep(50);
+      dialog = ::FindWindowW(L"#32770", nullptr);
+    }
+    wchar_t title[200] = L"";
+    ::GetWindowTextW(dialog, title, 200);
+    m_seen = Narrow(title);
+    // The dialogs' field for a name.
+    constexpr int fileName = 0x47C;
+    if (!m_file.empty())
+      ::SendDlgItemMessageW(dialog, fileName, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(m_file.c_str()));
+    ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(m_button), 0);
+  }
+
+  int m_button;
+  std::wstring m_file;
+  std::string m_seen;
+  HANDLE m_thread;
+};
+
+void Dialogs(const Late& root, const std::string& folder) {
+  const std::string file = folder + "\\dialog.wlc";
+  root.Get(L"Clear");
+  {
+    User user(IDOK, file);
+    root.Get(L"SaveAs");
+    g_checks.Equal(user.Seen(), "Save Wind Load Case As", "the dialog of a new case's name");
+  }
+  g_checks.Equal(root.Get(L"Location").value.Text(), file, "takes the name");
+  root.Put(L"Description", {"unsaved"});
+  for (const auto& [button, opened] : {std::pair{IDNO, "False"}, std::pair{IDYES, "True"}}) {
+    User user(button, "");
+    g_checks.Equal(root.Get(L"OpenExisting", {file}).value.Text(), opened, "the answer to the question");
+    g_checks.Equal(user.Seen(), "Open Wind Load Case", "whether unsaved changes may go");
+  }
+  {
+    User user(IDCANCEL, "");
+    g_checks.Equal(root.Get(L"Browse").value.Text(), "False", "a Cancel of the dialog");
+  }
+  wchar_t present[MAX_PATH];
+  ::GetCurrentDirectoryW(MAX_PATH, present);
+  {
+    User user(IDOK, file);
+    g_checks.Equal(root.Get(L"Browse").value.Text(), "True", "a file chosen in the dialog");
+    user.Seen();
+  }
+  wchar_t after[MAX_PATH];
+  ::GetCurrentDirectoryW(MAX_PATH, after);
+  g_checks.Equal(Narrow(after), Narrow(present), "the current folder stays");
+}
+
 ComPointer<IDispatch> CreateRoot() {
   ComPointer<IDispatch> root;
   CLSID identity{};
@@ -299,6 +375,7 @@ int main(int count, char** arguments) {
     EarlyBinding(*early.Get());
     Records(*early.Get());
     Files(late, folder);
+    Dialogs(late, folder);
   }
   // What the library holds by itself doesn't keep it loaded.
   const HMODULE library = ::GetModuleHandleW(L"ORVE3_BS6399_2.dll");

@@ -58,6 +58,14 @@ Argument::Argument(const Argument& other) {
   ::VariantCopy(&m_variant, &other.m_variant);
 }
 
+Argument Argument::RecordOf(const Argument& other) {
+  Argument record;
+  V_VT(&record.m_variant) = VT_BYREF | VT_RECORD;
+  V_RECORD(&record.m_variant) = V_RECORD(&other.m_variant);
+  V_RECORDINFO(&record.m_variant) = V_RECORDINFO(&other.m_variant);
+  return record;
+}
+
 std::string Argument::Text() const {
   if (Type() == VT_BOOL) return V_BOOL(&m_variant) ? "True" : "False";
   VARIANT text;

@@ -31,6 +31,8 @@ class Argument {
   Argument(const std::string& value) : Argument(value.c_str()) {}
   Argument(IDispatch* value);
   Argument(const Argument& other);
+  /// A record of another argument, by reference: wine copies a record within a record without its texts.
+  static Argument RecordOf(const Argument& other);
   Argument& operator=(const Argument&) = delete;
   ~Argument() { ::VariantClear(&m_variant); }
 

@@ -128,19 +128,18 @@ class WindSpeedMembers : public Members<BVe2X> {
 #define ORVE_CALLS(Name) Calls(L## #Name, &BVe2X::Name);
 #define ORVE_BY_SECTOR(Name) BySector(L## #Name, &BVe2X::Name);
 #define ORVE_SITE(Name) ORVE_BY_SECTOR(Name) ORVE_BY_SECTOR(set##Name)
-    ORVE_BOTH(datapath)
-    ORVE_BOTH(AutoWizard)
-    ORVE_LETS(AutoSite)
-    ORVE_LETS(SiteAltWarn) ORVE_LETS(Tick) ORVE_CALLS(Browse) ORVE_CALLS(SelectDlg) ORVE_CALLS(Edit)
-        ORVE_BOTH(SiteID) ORVE_CALLS(GBSite) ORVE_READS(Wizard) ORVE_LETS(Risk) ORVE_LETS(Season)
-            ORVE_LETS(StartMonth) ORVE_LETS(TopogMode) ORVE_BOTH(SiteAltitude) ORVE_BOTH(BaseV)
-                ORVE_SITE(CrestHt) ORVE_SITE(CrestX) ORVE_SITE(UpwLen) ORVE_SITE(DnwLen) ORVE_SITE(BaseAlt)
-                    ORVE_SITE(ObsHt) ORVE_SITE(ObsSep) ORVE_SITE(ToSea) ORVE_SITE(InTown) ORVE_BOTH(H)
-                        ORVE_BOTH(A) ORVE_BOTH(Units) ORVE_CALLS(Calculate) ORVE_READS(Sp) ORVE_READS(Ss)
-                            ORVE_BY_SECTOR(Sd) ORVE_BY_SECTOR(Sa) ORVE_BY_SECTOR(Zd) ORVE_BY_SECTOR(He)
-                                ORVE_BY_SECTOR(Sh) ORVE_BY_SECTOR(Sc) ORVE_BY_SECTOR(St) ORVE_BY_SECTOR(Tc)
-                                    ORVE_BY_SECTOR(Tt) ORVE_BY_SECTOR(gt) ORVE_BY_SECTOR(Sb)
-                                        ORVE_BY_SECTOR(DirVal) ORVE_BY_SECTOR(BSGust) ORVE_BY_SECTOR(HybridCa)
+    // clang-format off
+    ORVE_BOTH(datapath) ORVE_BOTH(AutoWizard) ORVE_LETS(AutoSite) ORVE_LETS(SiteAltWarn)
+    ORVE_LETS(Tick) ORVE_CALLS(Browse) ORVE_CALLS(SelectDlg) ORVE_CALLS(Edit) ORVE_BOTH(SiteID)
+    ORVE_CALLS(GBSite) ORVE_READS(Wizard) ORVE_LETS(Risk) ORVE_LETS(Season) ORVE_LETS(StartMonth)
+    ORVE_LETS(TopogMode) ORVE_BOTH(SiteAltitude) ORVE_BOTH(BaseV) ORVE_SITE(CrestHt)
+    ORVE_SITE(CrestX) ORVE_SITE(UpwLen) ORVE_SITE(DnwLen) ORVE_SITE(BaseAlt) ORVE_SITE(ObsHt)
+    ORVE_SITE(ObsSep) ORVE_SITE(ToSea) ORVE_SITE(InTown) ORVE_BOTH(H) ORVE_BOTH(A) ORVE_BOTH(Units)
+    ORVE_CALLS(Calculate) ORVE_READS(Sp) ORVE_READS(Ss) ORVE_BY_SECTOR(Sd) ORVE_BY_SECTOR(Sa)
+    ORVE_BY_SECTOR(Zd) ORVE_BY_SECTOR(He) ORVE_BY_SECTOR(Sh) ORVE_BY_SECTOR(Sc) ORVE_BY_SECTOR(St)
+    ORVE_BY_SECTOR(Tc) ORVE_BY_SECTOR(Tt) ORVE_BY_SECTOR(gt) ORVE_BY_SECTOR(Sb)
+    ORVE_BY_SECTOR(DirVal) ORVE_BY_SECTOR(BSGust) ORVE_BY_SECTOR(HybridCa)
+    // clang-format on
 #undef ORVE_READS
 #undef ORVE_LETS
   }
@@ -151,14 +150,14 @@ class CoefficientMembers : public Members<BreCpX> {
   CoefficientMembers() : Members(CreateCoefficientEngine()) {
 #define ORVE_READS(Name) Reads(L## #Name, &BreCpX::Name);
 #define ORVE_LETS(Name) Lets(L## #Name, &BreCpX::Name);
-    ORVE_LETS(datapath)
-    ORVE_LETS(AutoBreadth)
-    ORVE_LETS(Reporting)
-    ORVE_LETS(Method) ORVE_BOTH(TypeIndex) ORVE_LETS(Barrel_r) ORVE_LETS(Eaves_Pitch) ORVE_LETS(Eaves_Radius)
-        ORVE_LETS(Parapet_H) ORVE_LETS(Roof_Pitch) ORVE_BOTH(Dim_L) ORVE_BOTH(Dim_W) ORVE_BOTH(Dim_H)
-            ORVE_BOTH(Dim_gap) ORVE_LETS(Solidity) ORVE_BOTH(Theta) ORVE_LETS(ZoneIndex) ORVE_LETS(Suction)
-                ORVE_READS(Valid) ORVE_READS(ZoneString) ORVE_READS(Breadth) ORVE_READS(Depth)
-                    ORVE_READS(Scale_b) ORVE_READS(Cpe)
+    // clang-format off
+    ORVE_LETS(datapath) ORVE_LETS(AutoBreadth) ORVE_LETS(Reporting) ORVE_LETS(Method)
+    ORVE_BOTH(TypeIndex) ORVE_LETS(Barrel_r) ORVE_LETS(Eaves_Pitch) ORVE_LETS(Eaves_Radius)
+    ORVE_LETS(Parapet_H) ORVE_LETS(Roof_Pitch) ORVE_BOTH(Dim_L) ORVE_BOTH(Dim_W) ORVE_BOTH(Dim_H)
+    ORVE_BOTH(Dim_gap) ORVE_LETS(Solidity) ORVE_BOTH(Theta) ORVE_LETS(ZoneIndex) ORVE_LETS(Suction)
+    ORVE_READS(Valid) ORVE_READS(ZoneString) ORVE_READS(Breadth) ORVE_READS(Depth)
+    ORVE_READS(Scale_b) ORVE_READS(Cpe)
+    // clang-format on
   }
 };
 
