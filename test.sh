@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the project and runs all its tests, in a release build and in one with the address and
 # undefined-behaviour sanitizers. With --full also: the second compiler, the form of the sources, each header by
-# itself, an outside program against the installed package, and the slow tests. Installs what the machine misses
-# (Debian packages).
+# itself, an outside program against the installed package, the slow tests, and the COM library under wine.
+# Installs what the machine misses (Debian packages).
 set -u
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
 # shellcheck source=cmake/scripts.sh
@@ -65,6 +65,9 @@ if [ $FULL -eq 1 ]; then
   if [ -x fuzz/run.sh ]; then
     step "fuzzing" fuzz/run.sh 30
   fi
+  step "COM library, under wine" tests/com/run.sh
+else
+  echo "left out: the COM library and what else takes long; ./test.sh --full has it all"
 fi
 
 finish
