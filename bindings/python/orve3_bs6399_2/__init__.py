@@ -56,13 +56,13 @@ def _define_enumeration(name, help_text, members):
 
 
 def _define_record(name, help_text, fields):
-    specification = []
+    members = []
     for field, record, is_text in fields:
         if record:
-            specification.append((field, globals()[record], dataclasses.field(default_factory=globals()[record])))
+            members.append((field, globals()[record], dataclasses.field(default_factory=globals()[record])))
         else:
-            specification.append((field, str if is_text else float, "" if is_text else 0.0))
-    record_type = dataclasses.make_dataclass(name, specification)
+            members.append((field, str if is_text else float, "" if is_text else 0.0))
+    record_type = dataclasses.make_dataclass(name, members)
     record_type.__module__ = __name__
     record_type.__doc__ = help_text + "."
     _orve.register_record(name, record_type)
