@@ -21,10 +21,13 @@ std::string Text(const py::object& result, const char* service) {
   return *ResultOf(result, Kind::Text, service).As<std::string>();
 }
 
-/// A dialog works on a copy, so that Python may keep it.
+/// A dialog works on a copy, so that Python may keep it, with paths as the machine's own.
 std::function<bool(clsCommonDialog&)> FileDialog(const py::object& callable, const char* service) {
   return [callable, service](clsCommonDialog& dialog) {
-    const py::object copy = py::cast(dialog);
+    clsCommonDialog settings = dialog;
+    settings.InitDir = NativePath(dialog.InitDir);
+    settings.FileName = NativePath(dialog.FileName);
+    const py::object copy = py::cast(settings);
     if (!Truth(callable(copy), service)) return false;
     dialog.FileName = copy.cast<const clsCommonDialog&>().FileName;
     return true;

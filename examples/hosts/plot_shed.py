@@ -19,6 +19,8 @@ def plot_sectors(axes, site):
     axes.set_theta_zero_location("N")
     axes.set_theta_direction(-1)
     axes.bar(angles, q, width=0.45, color="tab:blue")
+    axes.set_yticks([0.2, 0.4, 0.6, 0.8])
+    axes.set_rlabel_position(15)
     axes.set_title("q by sector, kN/m²")
 
 
@@ -44,8 +46,11 @@ def plot_roof(axes, case, face):
     worst = min(zone[-1] for zone in zones)
     for name, x, y, width, height, suction in zones:
         axes.add_patch(Rectangle((x, y), width, height, edgecolor="black", facecolor=plt.cm.Blues(suction / worst)))
-        axes.text(x + width / 2, y + height / 2, f"{name} {suction:+.3f}", ha="center", va="center", fontsize=8)
+        color = "white" if suction / worst > 0.6 else "black"
+        axes.text(x + width / 2, y + height / 2, name, ha="center", va="center", fontsize=8, color=color)
+    loads = {name: suction for name, *_, suction in zones}
     axes.set(xlim=(0, LENGTH), ylim=(0, WIDTH), aspect="equal", title=f"Roof, wind on {face.text}, kN/m²")
+    axes.set_xlabel(",  ".join(f"{name} {suction:+.3f}" for name, suction in loads.items()))
 
 
 if __name__ == "__main__":

@@ -13,7 +13,7 @@ static void check(orve_error error) {
 
 /* The settings file lies in a folder that the host names. */
 static void name_folder(orve_reply* folder, void* user) {
-  orve_reply_text(folder, user);
+  orve_reply_text(folder, (const char*)user);
 }
 
 static void describe_building(orve_clsCurrentCase wind_case) {
@@ -71,7 +71,8 @@ static void print_face(orve_clsOverallAppliedLoads loads, orve_BuildingAreas are
 }
 
 int main(int count, char** arguments) {
-  orve_host_LibraryFolder(name_folder, count > 1 ? arguments[1] : "/tmp");
+  const char* folder = count > 1 ? arguments[1] : "/tmp";
+  orve_host_LibraryFolder(name_folder, (void*)folder);
   orve_register_built_in_engines();
   orve_clsCurrentCase wind_case;
   check(orve_clsCurrentCase_create(&wind_case));

@@ -1,4 +1,5 @@
 """The Python module where it isn't a plain run of the scripts: types, errors, events, services, life of objects."""
+import ast
 import gc
 import os
 import pathlib
@@ -42,6 +43,15 @@ class ModuleTest(unittest.TestCase):
         self.assertEqual(orve.ParentTypes.None_, 0)
         building.RoofType = 77
         self.assertEqual(building.RoofType, 77)
+
+    def test_the_stub_tells_of_every_member(self):
+        stub = ast.parse(pathlib.Path(orve.__file__).with_suffix(".pyi").read_text(encoding="utf-8"))
+        classes = {node.name: node for node in stub.body if isinstance(node, ast.ClassDef)}
+        described = [name for name in dir(orve) if name.startswith("cls")]
+        self.assertEqual(len(described), 8)
+        for name in described:
+            told = {node.name for node in classes[name].body if isinstance(node, ast.FunctionDef)}
+            self.assertEqual(told - {"__init__"}, {member for member in vars(getattr(orve, name)) if member[0] != "_"})
 
     def test_records_are_plain_values(self):
         pressures = orve.clsCantileverWindLoads()
