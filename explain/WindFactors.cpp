@@ -206,16 +206,15 @@ class SectorFactors {
     Quantity hd = Figure("Hd", "displacement height", &clsDynamicPressure::DisplacementHeight_Hd,
                          WindFactor::Zd, "1.7.3");
     hd.unit = kMetres;
-    const QuantityPtr town = Add(hd, InTown());
-    const QuantityPtr ho = Add(hd, SiteValue("Ho", "height of the obstructions",
-                                             &clsDynamicPressure::ObstructionHeight_Ho, kMetres));
+    Add(hd, InTown());
+    Add(hd, ToSea());
+    Add(hd,
+        SiteValue("Ho", "height of the obstructions", &clsDynamicPressure::ObstructionHeight_Ho, kMetres));
     Add(hd,
         SiteValue("Xo", "spacing of the obstructions", &clsDynamicPressure::ObstructionSpacing_Xo, kMetres));
-    if (!m_sources) return hd;
-    if (*town->value > 0 && *ho->value > 0)
+    // The record tells whether the obstructions count.
+    if (hd.source && hd.source->note.find("1.2 Ho") != std::string::npos)
       SetFormula(hd, "min(0.8 \u00D7 Ho, max(0, 1.2 \u00D7 Ho - 0.2 \u00D7 Xo))");
-    else
-      hd.note = *town->value > 0 ? "0 without obstructions" : "0 in country terrain";
     return hd;
   }
 
