@@ -42,6 +42,7 @@ std::string ZoneTable(const AreaZones& area, const FaceZones& face, Marks& marks
     if (!parapet) body += Cell(WithoutUnit(row.internal));
     body += "<td class=\"o\">" + WithoutUnit(row.overall) + "</td></tr>\n";
   }
+  marks.insert(marks.end(), face.refusal.begin(), face.refusal.end());
   if (body.empty()) return {};
   const std::string caption =
       area.title + ", " + std::string(PublishedText(face.face)) + ": coefficients, and loads in kN/m\u00B2";
@@ -93,7 +94,7 @@ std::string DerivationRow(const DerivationLine& line, Marks& marks, Warnings& wa
 
 std::string AreaPart(const Content& content, const AreaZones& area) {
   if (std::all_of(area.faces.begin(), area.faces.end(),
-                  [](const FaceZones& face) { return face.rows.empty(); }))
+                  [](const FaceZones& face) { return face.rows.empty() && face.refusal.empty(); }))
     return {};
   std::string figures;
   std::string tables;

@@ -43,9 +43,9 @@ void Fill(ExternalPressure& record) {
   constexpr auto walls = BuildingAreas::baWalls;
   const auto loads = RequireCurrentCase().OverallAppliedLoads();
   for (const WallField& wall : kFields) {
-    const std::int16_t zone = loads->ZoneIndexFromZoneDescription(wall.zone, walls, wall.face);
-    if (zone > loads->ZoneIndexTo(walls, wall.face)) continue;
     try {
+      const std::int16_t zone = loads->ZoneIndexFromZoneDescription(wall.zone, walls, wall.face);
+      if (zone > loads->ZoneIndexTo(walls, wall.face)) continue;
       record.*wall.field = {loads->Hybrid_ZoneDimensions(walls, wall.face, zone),
                             loads->Hybrid_ExternalAppliedLoads(walls, wall.face, zone)};
     } catch (const Error&) {

@@ -103,8 +103,10 @@ Content GatherContent() {
   content.members = ReadMembers(content.warnings);
   content.sources = SourcesOf(content.areas);
   for (const AreaZones& area : content.areas)
-    for (const FaceZones& face : area.faces)
+    for (const FaceZones& face : area.faces) {
+      content.refusals += !face.refusal.empty();
       for (const ZoneRow& row : face.rows) content.refusals += !row.refusal.empty();
+    }
   for (const CantileverFace& face : content.cantilevers) content.refusals += !face.refusal.empty();
   content.digest = Sha256(DigestText(content));
   return content;

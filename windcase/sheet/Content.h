@@ -62,6 +62,7 @@ struct ZoneRow {
 struct FaceZones {
   Faces face = Faces::Face_1;
   std::vector<ZoneRow> rows;
+  Marks refusal{};  ///< Why there are no zones.
 };
 
 /// The zone that governs one sign of an area's loads.

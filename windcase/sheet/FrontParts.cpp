@@ -13,7 +13,7 @@ std::string Or(const std::string& text, const std::string& otherwise) {
   return text.empty() ? otherwise : text;
 }
 
-// Groups of four digits that an eye can compare.
+// Groups of digits that an eye can compare.
 std::string Grouped(const std::string& digest) {
   constexpr std::size_t group = 8;
   std::string text;

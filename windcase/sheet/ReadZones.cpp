@@ -159,9 +159,15 @@ AreaZones ReadZones(BuildingAreas area, Warnings& warnings) {
   zones.title = explain::AreaName(area);
   for (const Faces face : kFaces) {
     FaceZones list{face, {}};
-    const std::int16_t last = external->ZoneIndexTo(area, face);
-    for (std::int16_t zone = external->ZoneIndexFrom(area, face); zone <= last; ++zone)
-      list.rows.push_back(ReadZone(area, face, zone, warnings));
+    try {
+      const std::int16_t last = external->ZoneIndexTo(area, face);
+      for (std::int16_t zone = external->ZoneIndexFrom(area, face); zone <= last; ++zone)
+        list.rows.push_back(ReadZone(area, face, zone, warnings));
+    } catch (const Error& error) {  // sizes that don't fit
+      list.rows.clear();
+      warnings.Mark(list.refusal,
+                    zones.title + ", " + std::string(PublishedText(face)) + ": " + error.what());
+    }
     zones.faces.push_back(std::move(list));
   }
   KeepGoverning(zones);

@@ -17,9 +17,10 @@ constexpr double kFont = 9;
 constexpr double kLetter = 5.2;  // width of a letter of that size
 
 std::size_t ToneIndex(double load, double greatest) {
-  if (!(greatest > 0) || !(load > 0)) return 0;
-  const auto steps = static_cast<double>(kTones.size() - 1);
-  return static_cast<std::size_t>(std::clamp(std::ceil(load / greatest * steps), 0.0, steps));
+  const double share = load / greatest;
+  if (!(share > 0)) return 0;
+  const std::size_t darkest = kTones.size() - 1;
+  return share < 1 ? static_cast<std::size_t>(std::ceil(share * static_cast<double>(darkest))) : darkest;
 }
 
 double LoadOf(const ZoneRow& row) {
