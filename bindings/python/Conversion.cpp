@@ -69,6 +69,12 @@ Value WholeFromPython(py::handle object) {
   return static_cast<std::int32_t>(value);
 }
 
+/// numpy's truth value, which is no Python bool.
+bool IsArrayBool(py::handle object) {
+  if (PyLong_Check(object.ptr()) || !py::hasattr(object, "dtype")) return false;
+  return py::str(object.attr("dtype").attr("kind")).equal(py::str("b"));
+}
+
 Value TextFromPython(py::handle object) {
   Py_ssize_t size = 0;
   const char* text = PyUnicode_AsUTF8AndSize(object.ptr(), &size);
@@ -106,6 +112,7 @@ Value FromPython(py::handle object) {
   if (PyBool_Check(given)) return given == Py_True;
   if (PyFloat_Check(given)) return PyFloat_AS_DOUBLE(given);
   if (PyUnicode_Check(given)) return TextFromPython(object);
+  if (IsArrayBool(object)) return PyObject_IsTrue(given) == 1;
   if (PyIndex_Check(given)) return WholeFromPython(object);
   if (py::isinstance<Reference>(object)) return object.cast<const Reference&>().object;
   for (const auto& [name, type] : PythonTypes().records)

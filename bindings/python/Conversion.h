@@ -1,7 +1,9 @@
 // Python objects as values of the object model, and back.
 #pragma once
 
+#include <cstddef>
 #include <map>
+#include <new>
 #include <pybind11/pybind11.h>
 #include <string>
 #include <string_view>
@@ -15,6 +17,11 @@ namespace py = pybind11;
 /// What `_orve.Object` holds: a counted reference to an object of the library.
 struct Reference {
   automation::ObjectReference object;
+
+  /// An instance whose `__init__` never ran holds a null reference instead of raw memory.
+  static void* operator new(std::size_t size) { return ::new (::operator new(size)) Reference(); }
+  static void* operator new(std::size_t, void* place) { return place; }
+  static void operator delete(void* memory) { ::operator delete(memory); }
 };
 
 /// The Python types made from the description, by name: an enumeration as a dictionary from value to member,

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "common/Error.h"
+
 namespace orve::python {
 
 using automation::MemberDescription;
@@ -60,6 +62,16 @@ std::string DocumentationOf(const MemberDescription& member) {
   return text + ".";
 }
 
+/// The form from which Python's own tools read a signature.
+std::string SignatureOf(const MemberDescription& member, bool isLet) {
+  std::string text = (isLet ? "set_" : "") + std::string(member.name) + "($self";
+  for (const auto& argument : member.arguments) {
+    text += ", " + std::string(argument.name);
+    if (!isLet && argument.defaultValue) text += "=" + automation::TextOf(*argument.defaultValue);
+  }
+  return text + (isLet ? ", value" : "") + ")\n--\n\n" + DocumentationOf(member);
+}
+
 py::object PropertyOf(const MemberDescription& member, const py::object& base) {
   const auto get = [&member](const Reference& self) {
     return ToPython(automation::Invoke(self.object, member, {}), member.type, member.unit == "path");
@@ -79,7 +91,7 @@ py::object FunctionOf(const MemberDescription& member, const py::object& base) {
       [&member](const Reference& self, const py::args& arguments, const py::kwargs& keywords) {
         return Call(self, member, arguments, keywords);
       },
-      py::is_method(base), py::name(name.c_str()), py::doc(DocumentationOf(member).c_str()));
+      py::is_method(base), py::name(name.c_str()), py::doc(SignatureOf(member, false).c_str()));
 }
 
 py::object SetterOf(const MemberDescription& member, const py::object& base) {
@@ -87,12 +99,14 @@ py::object SetterOf(const MemberDescription& member, const py::object& base) {
   return py::cpp_function([&member](const Reference& self, const py::args& arguments,
                                     const py::kwargs& keywords) { Let(self, member, arguments, keywords); },
                           py::is_method(base), py::name(name.c_str()),
-                          py::doc(DocumentationOf(member).c_str()));
+                          py::doc(SignatureOf(member, true).c_str()));
 }
 
 }  // namespace
 
 py::dict MembersOf(const automation::ClassDescription& description, const py::object& base) {
+  py::options options;
+  options.disable_function_signatures();
   py::dict members;
   for (const MemberDescription& member : description.members) {
     const std::string name(member.name);
@@ -117,6 +131,7 @@ void AssignByName(const Reference& self, const std::string& member, const py::ar
 }
 
 Connection ConnectByName(const Reference& self, const std::string& event, const py::function& handler) {
+  if (self.object.type == nullptr) throw Error(ErrorNumber::ObjectNotSet, "Object is not set");
   const automation::EventDescription* description = self.object.type->FindEvent(event);
   return automation::ConnectEvent(self.object, event, [description, handler](std::span<const Value> values) {
     py::tuple arguments(values.size());

@@ -104,6 +104,12 @@ void DefineObjects(py::module_& module) {
              return py::isinstance<Reference>(other) &&
                     other.cast<const Reference&>().object.object == self.object.object;
            })
+      .def("__copy__", [](const py::object& self) { return self; })
+      .def("__deepcopy__", [](const py::object& self, const py::dict&) { return self; })
+      .def("__reduce__",
+           [](const py::object&) -> py::object {
+             throw Error(ErrorNumber::TypeMismatch, "Type mismatch: an object of the library isn't a value");
+           })
       .def("__hash__", [](const Reference& self) { return std::hash<void*>()(self.object.object.get()); });
 }
 

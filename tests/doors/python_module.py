@@ -1,6 +1,8 @@
 """The Python module where it isn't a plain run of the scripts: types, errors, events, services, life of objects."""
 import ast
+import copy
 import gc
+import inspect
 import os
 import pathlib
 import pickle
@@ -52,6 +54,12 @@ class ModuleTest(unittest.TestCase):
         for name in described:
             told = {node.name for node in classes[name].body if isinstance(node, ast.FunctionDef)}
             self.assertEqual(told - {"__init__"}, {member for member in vars(getattr(orve, name)) if member[0] != "_"})
+
+    def test_signatures_and_docstrings_come_from_the_description(self):
+        wind = type(self.case.DynamicPressure)
+        self.assertEqual(str(inspect.signature(wind.DynamicPressure_q)), "(WindArea=-1, WindSector=-1)")
+        self.assertEqual(str(inspect.signature(wind.set_DynamicPressure_q)), "(WindArea, WindSector, value)")
+        self.assertEqual(wind.BasicWindSpeed.__doc__, "Basic wind speed Vb (Figure 6), m/s.")
 
     def test_records_are_plain_values(self):
         pressures = orve.clsCantileverWindLoads()
@@ -130,6 +138,12 @@ class ModuleTest(unittest.TestCase):
         self.assertNotEqual(building, self.case.BuildingDimensions)
         self.assertEqual(building.Roof_Pitch, 5)
         self.assertEqual(len({building, building, self.case}), 2)
+        self.assertEqual(copy.deepcopy(building), building)
+        self.raises(13, pickle.dumps, building)
+        unborn = orve.clsCurrentCase.__new__(orve.clsCurrentCase)
+        self.raises(91, getattr, unborn, "Description")
+        self.raises(91, setattr, self.case, "BuildingDimensions", unborn)
+        self.raises(91, unborn.DirtyUpdated.connect, print)
 
     def test_a_refused_opening_says_what_to_do(self):
         orve.host.SaveFileDialog = lambda dialog: setattr(dialog, "FileName", self.path("shed.wlc")) or True

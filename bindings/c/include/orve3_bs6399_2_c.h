@@ -42,7 +42,7 @@ ORVE_C_API void orve_free_text(char* text);
 
 /* Makes the built-in engines the components; call it before orve_clsCurrentCase_create. */
 ORVE_C_API void orve_register_built_in_engines(void);
-/* "v3.0.33". */
+/* The version, as in "v3.0.33". */
 ORVE_C_API orve_error orve_app_version(char** result);
 /* A stored path, "\" as separator, as the machine's own. */
 ORVE_C_API orve_error orve_native_path(const char* path, char** result);
