@@ -23,7 +23,8 @@ LOGS="$PWD/build/logs"
 mkdir -p "$LOGS"
 
 PACKAGES=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
-[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libclang-rt-14-dev git libbenchmark-dev pkg-config python3-dev pybind11-dev)
+[ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libclang-rt-14-dev git libbenchmark-dev pkg-config python3-dev
+  pybind11-dev python3-matplotlib)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
 check_format() {
