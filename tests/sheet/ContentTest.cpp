@@ -57,7 +57,7 @@ void CheckDerivation(const ZoneRow& row, bool pressure) {
 
 TEST_F(ContentTest, HoldsTheGreatestLoadsTheirWarningsAndDerivationsForRandomCases) {
   std::mt19937 random(23);
-  for (int i = 0; i < 12; ++i) {
+  for (int i = 0; i < 6; ++i) {
     SCOPED_TRACE(i);
     root->Clear();
     FillRandomCase(*root, random);
@@ -118,6 +118,9 @@ TEST_F(ContentTest, ChoosesTheSurfacesThatTheCaseConsiders) {
 TEST_F(ContentTest, DigestFollowsInputsAndResultsAndNothingElse) {
   MakePortal();
   const std::string before = GatherContent().digest;
+  root->DynamicPressure()->WindSector(WindSectors::Degrees_90);
+  root->ExternalCoefficients()->Face(Faces::Face_3);
+  EXPECT_EQ(GatherContent().digest, before);
   using Change = std::function<void()>;
   const Change changes[] = {
       [&] { root->Description("Another"); },
@@ -139,9 +142,6 @@ TEST_F(ContentTest, DigestFollowsInputsAndResultsAndNothingElse) {
   for (std::size_t i = 0; i < std::size(changes); ++i) {
     root->Clear();
     MakePortal();
-    root->DynamicPressure()->WindSector(WindSectors::Degrees_90);
-    root->ExternalCoefficients()->Face(Faces::Face_3);
-    EXPECT_EQ(GatherContent().digest, before) << i;
     changes[i]();
     EXPECT_NE(GatherContent().digest, before) << i;
   }

@@ -84,13 +84,11 @@ std::string CoverPart(const Content& content, const SheetOptions& options) {
 }
 
 std::string WarningsPart(const Content& content) {
-  const auto& texts = content.warnings.Texts();
-  if (texts.empty()) return {};
+  const std::size_t count = content.warnings.Texts().size();
+  if (count == 0) return {};
   std::string markup = "<ol class=\"wl\">";
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    const std::string number = std::to_string(i + 1);
-    markup += "<li id=\"w" + number + "\"><b>W" + number + "</b> " + Escaped(texts[i]) + "</li>\n";
-  }
+  for (std::size_t number = 1; number <= count; ++number)
+    markup += "<li id=\"w" + std::to_string(number) + "\">" + WarningMarkup(content, number) + "</li>\n";
   return markup + "</ol>\n";
 }
 

@@ -29,14 +29,19 @@ std::string MarkedMarkup(const Marked& marked) {
   return Escaped(marked.text) + MarkMarkup(marked.marks);
 }
 
+std::string WarningMarkup(const Content& content, std::size_t number) {
+  std::string text = content.warnings.Texts().at(number - 1);
+  if (text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return "<b>W" + std::to_string(number) + "</b> " + Escaped(text);
+}
+
 std::string NotesMarkup(const Content& content, Marks marks) {
   std::sort(marks.begin(), marks.end());
   marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
   if (marks.empty()) return {};
   std::string markup = "<ul class=\"w\">";
   for (const int mark : marks)
-    markup += "<li><b>W" + std::to_string(mark) + "</b> " +
-              Escaped(content.warnings.Texts()[static_cast<std::size_t>(mark) - 1]) + "</li>";
+    markup += "<li>" + WarningMarkup(content, static_cast<std::size_t>(mark)) + "</li>";
   return markup + "</ul>\n";
 }
 

@@ -29,6 +29,8 @@ std::string Ranges(const std::vector<int>& numbers);
 /// The marks of warnings behind a number, as a link; empty without any.
 std::string MarkMarkup(const Marks& marks);
 std::string MarkedMarkup(const Marked& marked);
+/// A warning with its number, as the inside of a list item.
+std::string WarningMarkup(const Content& content, std::size_t number);
 /// The warnings that were marked, below a table.
 std::string NotesMarkup(const Content& content, Marks marks);
 /// A table: `head` are its cells with scope, `body` its rows. It scrolls on a narrow screen.

@@ -19,6 +19,11 @@ bool HasSteps(const MemberRow& row) {
   return false;
 }
 
+// A case begins with a stepped load chosen everywhere, without steps.
+bool IsShown(const MemberRow& row) {
+  return !row.stepped || HasSteps(row);
+}
+
 MemberRow ReadMember(BuildingAreas area, Faces face, Warnings& warnings) {
   const auto loads = RequireCurrentCase().OverallAppliedLoads();
   MemberRow row;
@@ -34,6 +39,10 @@ MemberRow ReadMember(BuildingAreas area, Faces face, Warnings& warnings) {
   row.span = loads->SteppedWind_Span(area, face);
   try {
     row.load.text = loads->SelectedLoadValues(area, face);
+    if (row.load.text.empty() && IsShown(row))
+      warnings.Mark(row.load.marks, row.stepped
+                                        ? "A stepped load without a span or without loads is none"
+                                        : "The face has no zone of the name chosen, or it has no load");
     row.average = loads->SteppedWind_Load(area, face);
     row.continuous = loads->ContinuousSteppedWind(area, face);
     if (row.continuous) {
@@ -53,7 +62,7 @@ std::vector<MemberRow> ReadMembers(Warnings& warnings) {
   for (const BuildingAreas area : ConsideredAreas())
     for (const Faces face : kFaces) {
       MemberRow row = ReadMember(area, face, warnings);
-      if (!row.stepped || HasSteps(row)) rows.push_back(std::move(row));
+      if (IsShown(row)) rows.push_back(std::move(row));
     }
   return rows;
 }
