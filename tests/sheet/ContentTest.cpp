@@ -125,11 +125,9 @@ TEST_F(ContentTest, DigestFollowsInputsAndResultsAndNothingElse) {
   const Change changes[] = {
       [&] { root->Description("Another"); },
       [&] { root->BuildingDimensions()->Roof_EavesRadius(0.25f); },
-      [&] { root->BuildingDimensions()->Parapet_GableReturnCorner(true); },
       [&] { root->BuildingDimensions()->Roof_Height(6.8000007f); },
       [&] { root->DynamicPressure()->FetchesToSea(WindSectors::Degrees_210, 3.6f); },
       [&] { root->DynamicPressure()->LifeTime(LifeTime::Temporary); },
-      [&] { root->ExternalCoefficients()->Bay(Bays::Second_Bay); },
       [&] {
         root->InternalCoefficients()->DominantOpening_SelectedZoneIndex(Faces::Face_4, WallZones::Leeward);
       },

@@ -74,7 +74,7 @@ std::string CoverPart(const Content& content, const SheetOptions& options) {
   const std::size_t warnings = content.warnings.Texts().size();
   if (warnings > 0)
     markup += "<p class=\"note\"><b>" + Plural(warnings, "warning") +
-              "</b>, listed in part 1 and marked W beside "
+              "</b>, listed in section 1 and marked W beside "
               "each number that they touch. Read them before relying on a number.</p>\n";
   if (content.refusals > 0)
     markup += "<p class=\"note\"><b>Not complete:</b> " +

@@ -34,15 +34,15 @@ std::vector<Part> PartsOf(const Content& content) {
 std::string Contents(const std::vector<Part>& parts) {
   std::string markup = "<nav aria-label=\"Contents\"><h2>Contents</h2><ol>";
   for (std::size_t i = 0; i < parts.size(); ++i)
-    markup += "<li><a href=\"#part" + std::to_string(i + 1) + "\">" + Escaped(parts[i].title) + "</a></li>";
+    markup += "<li><a href=\"#s" + std::to_string(i + 1) + "\">" + Escaped(parts[i].title) + "</a></li>";
   return markup + "</ol></nav>\n";
 }
 
 // On a screen each part tells its number; on paper each page tells its own.
 std::string Section(const Part& part, std::size_t number, std::size_t count) {
-  const std::string id = "part" + std::to_string(number);
+  const std::string id = "s" + std::to_string(number);
   return "<section" + std::string(part.ownPage ? " class=\"page\"" : "") + " id=\"" + id +
-         "\" aria-labelledby=\"" + id + "h\"><p class=\"n\">Part " + std::to_string(number) + " of " +
+         "\" aria-labelledby=\"" + id + "h\"><p class=\"n\">Section " + std::to_string(number) + " of " +
          std::to_string(count) + "</p><h2 id=\"" + id + "h\">" + std::to_string(number) + " " +
          Escaped(part.title) + "</h2>\n" + part.body + "</section>\n";
 }
