@@ -44,7 +44,7 @@ check_exports() {
 make_prefix() {
   mkdir "$ROOM/library" "$ROOM/cases" "$ROOM/doors"
   cp build/com/bindings/com/ORVE3_BS6399_2.dll build/com/tests/com/*.exe build/com/tests/com/*.dll "$ROOM/library" &&
-    cp tests/com/host.vbs "$ROOM/library" && cp -r tests/doors/scripts "$ROOM/scripts" &&
+    cp tests/com/host.vbs examples/hosts/com/shed.vbs "$ROOM/library" && cp -r tests/doors/scripts "$ROOM/scripts" &&
     run_wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f && wineserver -k && wineserver -w
 }
 
@@ -74,6 +74,15 @@ check_program() {
   fi
 }
 
+# The hosts that docs/hosting.md shows print the same loads.
+check_hosts() {
+  run_wine cscript.exe //nologo 'C:\test\library\shed.vbs' | tr -d '\r' >"$ROOM/script" &&
+    run_wine 'C:\test\library\shed_early.exe' | tr -d '\r' >"$ROOM/early" &&
+    run_wine 'C:\test\library\shed_late.exe' | tr -d '\r' >"$ROOM/late" &&
+    cat "$ROOM/script" && grep -q '^Face 4, A: -' "$ROOM/script" &&
+    diff "$ROOM/script" "$ROOM/early" && diff "$ROOM/script" "$ROOM/late"
+}
+
 step "COM: build, 64 bits" build_preset com
 step "COM: entry points, 64 bits" check_exports com x86_64-w64-mingw32-objdump
 step "COM: build, 32 bits" build_preset com32
@@ -84,6 +93,7 @@ if step "COM: a prefix without a screen" make_prefix && ln -s "$ROOM" "$WINEPREF
   check_program "COM: outside components" "$OUTSIDE" 'C:\test\library\orve_test_outside_client.exe'
   check_program "COM: script host" "$SCRIPT" cscript.exe //nologo 'C:\test\library\host.vbs' 'C:\test\cases'
   check_program "COM: case scripts" "$CASES" 'C:\test\library\orve_test_door.exe' 'C:\test\scripts' 'C:\test\doors'
+  step "COM: the documents' hosts" check_hosts
   step "COM: registration taken back" unregister
 fi
 finish
