@@ -73,13 +73,17 @@ ErrorNumber NumberOf(DWORD cause, const fs::path& native) {
 }
 
 /// ERROR_SUCCESS, or the error that stopped the writing.
-DWORD WriteAll(HANDLE handle, std::string_view content, Durability durability) {
+DWORD WriteAll(HANDLE handle, std::string_view content) {
   while (!content.empty()) {
     const auto part = static_cast<DWORD>(std::min<std::size_t>(content.size(), 1u << 20));
     DWORD written = 0;
     if (!::WriteFile(handle, content.data(), part, &written, nullptr)) return ::GetLastError();
     content.remove_prefix(written);
   }
+  return ERROR_SUCCESS;
+}
+
+DWORD Flush(HANDLE handle, Durability durability) {
   if (durability == Durability::Flushed && !::FlushFileBuffers(handle)) return ::GetLastError();
   return ERROR_SUCCESS;
 }
@@ -93,23 +97,32 @@ fs::path TemporaryName(const fs::path& target) {
 
 DWORD WriteTemporary(const fs::path& path, std::string_view content, Durability durability) {
   const FileHandle handle(Open(path, GENERIC_WRITE, CREATE_NEW));
-  return handle ? WriteAll(handle.Get(), content, durability) : ::GetLastError();
+  if (!handle) return ::GetLastError();
+  const DWORD cause = WriteAll(handle.Get(), content);
+  return cause == ERROR_SUCCESS ? Flush(handle.Get(), durability) : cause;
 }
 
 DWORD WriteInPlace(const fs::path& target, std::string_view content, Durability durability) {
   const FileHandle handle(Open(target, GENERIC_WRITE, OPEN_EXISTING));
   if (!handle) return ::GetLastError();
-  const DWORD cause = WriteAll(handle.Get(), content, durability);
+  const DWORD cause = WriteAll(handle.Get(), content);
   if (cause != ERROR_SUCCESS) return cause;
-  return ::SetEndOfFile(handle.Get()) ? ERROR_SUCCESS : ::GetLastError();
+  return ::SetEndOfFile(handle.Get()) ? Flush(handle.Get(), durability) : ::GetLastError();
 }
 
-/// Puts the temporary file in the target's place, with the target's attributes if there is one.
+/// Puts the temporary file in the target's place, with the target's attributes and rights if there is one,
+/// unless the file system can only rename.
 DWORD Replace(const fs::path& target, const fs::path& temporary, bool present) {
-  const BOOL done = present ? ::ReplaceFileW(target.c_str(), temporary.c_str(), nullptr,
-                                             REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
-                            : ::MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+  const bool done =
+      (present && ::ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                                 nullptr, nullptr)) ||
+      ::MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
   return done ? ERROR_SUCCESS : ::GetLastError();
+}
+
+/// The folder takes no new file, or another program holds the target open in a way that bars its replacing.
+bool ReplacingBarred(DWORD cause) {
+  return cause == ERROR_ACCESS_DENIED || cause == ERROR_SHARING_VIOLATION || cause == ERROR_USER_MAPPED_FILE;
 }
 
 }  // namespace
@@ -143,14 +156,16 @@ void WriteWholeFile(const std::string& path, std::string_view content, Durabilit
   FileHandle probe(Open(target, GENERIC_WRITE, OPEN_EXISTING));
   const bool present = static_cast<bool>(probe);
   if (!present && ::GetLastError() != ERROR_FILE_NOT_FOUND) Raise(::GetLastError(), path, target);
+  // A rename over a protected file isn't refused everywhere.
+  if (present && (::GetFileAttributesW(target.c_str()) & FILE_ATTRIBUTE_READONLY) != 0)
+    Raise(ERROR_ACCESS_DENIED, path, target);
   probe.Close();
 
   const fs::path temporary = TemporaryName(target);
   DWORD cause = WriteTemporary(temporary, content, durability);
-  const bool folderForbids = present && cause == ERROR_ACCESS_DENIED;
   if (cause == ERROR_SUCCESS) cause = Replace(target, temporary, present);
   if (cause != ERROR_SUCCESS) ::DeleteFileW(temporary.c_str());
-  if (folderForbids) cause = WriteInPlace(target, content, durability);
+  if (present && ReplacingBarred(cause)) cause = WriteInPlace(target, content, durability);
   if (cause != ERROR_SUCCESS) Raise(cause, path, target);
 }
 
