@@ -70,11 +70,15 @@ void RaiseIfFailed(HRESULT result) {
   throw Error(NumberOf(result), "The system's error " + HexText(result));
 }
 
-void FillException(EXCEPINFO& exception, const automation::ErrorReport& report) {
+// A lack of memory costs the texts alone.
+void FillException(EXCEPINFO& exception, const automation::ErrorReport& report) noexcept {
   exception = {};
   exception.scode = ResultOf(report.number);
-  exception.bstrSource = NewText(SourceName);
-  exception.bstrDescription = NewText(report.text);
+  try {
+    exception.bstrSource = NewText(SourceName);
+    exception.bstrDescription = NewText(report.text);
+  } catch (...) {
+  }
 }
 
 automation::ErrorReport TakeException(EXCEPINFO& exception) {
@@ -90,15 +94,17 @@ automation::ErrorReport TakeException(EXCEPINFO& exception) {
   return report;
 }
 
-HRESULT LeaveErrorInformation(const automation::ErrorReport& report, const GUID& interfaceIdentity) {
-  ComPointer<ICreateErrorInfo> created;
-  if (SUCCEEDED(::CreateErrorInfo(created.Receive()))) {
+HRESULT LeaveErrorInformation(const automation::ErrorReport& report, const GUID& interfaceIdentity) noexcept {
+  try {
+    ComPointer<ICreateErrorInfo> created;
+    RaiseIfFailed(::CreateErrorInfo(created.Receive()));
     created->SetGUID(interfaceIdentity);
     created->SetSource(ToWide(SourceName).data());
     created->SetDescription(ToWide(report.text).data());
     ComPointer<IErrorInfo> information;
-    if (SUCCEEDED(created->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(information.Receive()))))
-      ::SetErrorInfo(0, information.Get());
+    RaiseIfFailed(created->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(information.Receive())));
+    ::SetErrorInfo(0, information.Get());
+  } catch (...) {
   }
   return ResultOf(report.number);
 }

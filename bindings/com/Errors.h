@@ -23,11 +23,11 @@ int NumberOf(HRESULT result);
 void RaiseIfFailed(HRESULT result);
 
 /// Fills in what a late-bound caller reads.
-void FillException(EXCEPINFO& exception, const automation::ErrorReport& report);
+void FillException(EXCEPINFO& exception, const automation::ErrorReport& report) noexcept;
 /// Number and text of what a late-bound call raised; its texts are freed.
 automation::ErrorReport TakeException(EXCEPINFO& exception);
 /// Leaves number and text for an early-bound caller. The result code.
-HRESULT LeaveErrorInformation(const automation::ErrorReport& report, const GUID& interfaceIdentity);
+HRESULT LeaveErrorInformation(const automation::ErrorReport& report, const GUID& interfaceIdentity) noexcept;
 
 /// Runs a body of an interface's method; what it raises is left for the caller.
 template <class Body>

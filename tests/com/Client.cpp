@@ -248,6 +248,11 @@ void Files(const Late& root, const std::string& folder) {
   g_checks.Equal(root.Get(L"Save").number, 70L, "a protected file");
   g_checks.Equal(root.Get(L"IsDirty").value.Text(), "True", "leaves the case unsaved");
   ::SetFileAttributesW(Wide(file).c_str(), FILE_ATTRIBUTE_NORMAL);
+  // Another program that reads the file bars its replacing, not its saving.
+  const HANDLE reader = ::CreateFileW(Wide(file).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_EXISTING, 0, nullptr);
+  g_checks.Equal(root.Get(L"Save").text, "", "a file that is being read");
+  ::CloseHandle(reader);
   root.Put(L"Location", {folder + "\\nowhere\\x.wlc"});
   g_checks.Equal(root.Get(L"Save").number, 76L, "a folder that isn't there");
   WIN32_FIND_DATAW left;
@@ -355,6 +360,35 @@ void TypeInformation(IDispatch* root) {
                 "the events' identity");
 }
 
+/// Calls from another apartment.
+DWORD WINAPI FromAnotherApartment(void*) {
+  ::CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+  {
+    ComPointer<IDispatch> root;
+    g_checks.Equal(::CoCreateInstance(__uuidof(clsCurrentCase), nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                      reinterpret_cast<void**>(root.Receive())),
+                   S_OK, "a root object for another apartment");
+    if (root) {
+      const Late building = Late(root.Get()).Object(L"BuildingDimensions");
+      building.Put(L"Roof_Height", {4.5});
+      g_checks.Equal(building.Get(L"Roof_Height").value.Text(), "4.5", "calls from another apartment");
+      g_checks.Equal(building.Put(L"Roof_Height", {"x"}).number, 13L, "and errors");
+    }
+  }
+  ::CoUninitialize();
+  return 0;
+}
+
+/// The objects live on this thread, which has to take the other one's calls meanwhile.
+void ServeAnotherApartment() {
+  const HANDLE thread = ::CreateThread(nullptr, 0, &FromAnotherApartment, nullptr, 0, nullptr);
+  while (::MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+  }
+  ::CloseHandle(thread);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -384,6 +418,7 @@ int main(int count, char** arguments) {
       reinterpret_cast<CanUnload>(reinterpret_cast<void*>(::GetProcAddress(library, "DllCanUnloadNow")));
   g_checks.True(canUnload != nullptr && canUnload() == S_OK,
                 "with its objects gone the library can be unloaded");
+  ServeAnotherApartment();
   ::CoUninitialize();
   return g_checks.Close();
 }
