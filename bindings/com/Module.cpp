@@ -62,7 +62,6 @@ ITypeInfo* TypeInformation(const GUID& identity) {
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
   if (reason == DLL_PROCESS_ATTACH) {
     orve::com::g_instance = instance;
-    ::DisableThreadLibraryCalls(instance);
   } else if (reason == DLL_PROCESS_DETACH) {
     orve::com::g_stands = false;
   }
