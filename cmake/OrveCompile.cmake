@@ -20,7 +20,10 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 # The standard headers that most sources need, compiled once for a target. The clang preset goes without, so that a
 # source that forgets an include is found.
+option(ORVE_PRECOMPILE "Compile the standard headers once for each target" ON)
 function(orve_precompile target)
-  target_precompile_headers(${target} PRIVATE
-    <algorithm> <array> <cmath> <cstdint> <functional> <memory> <optional> <string> <string_view> <utility> <vector>)
+  if(ORVE_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE
+      <algorithm> <array> <cmath> <cstdint> <functional> <memory> <optional> <string> <string_view> <utility> <vector>)
+  endif()
 endfunction()
