@@ -1,7 +1,11 @@
 // Calls by name with loosely typed arguments.
+#include <gtest/gtest.h>
 #include <limits>
+#include <string>
+#include <vector>
 
 #include "Dispatch.h"
+#include "orve3_bs6399_2.h"
 #include "published/BuiltInCase.h"
 
 namespace orve::automation {

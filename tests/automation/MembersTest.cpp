@@ -1,8 +1,10 @@
 // The description against the headers and against the committed numbers.
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <set>
 #include <sstream>
+#include <string>
 
 #include "Description.h"
 

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <orve3_bs6399_2.h>
 #include <stdlib.h>
+#include <string>
 
 #include "common/FileLayer.h"
 #include "common/LetterCase.h"

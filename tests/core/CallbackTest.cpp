@@ -1,4 +1,8 @@
 // A host that calls back from its handlers: at every event of a run of calls, one after the other.
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
 #include "common/HostCalls.h"
 #include "core/Required.h"
 #include "support/FakeComponents.h"

@@ -1,6 +1,9 @@
 // Construction, the document state and its events, and component start-up.
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "support/FakeComponents.h"
 

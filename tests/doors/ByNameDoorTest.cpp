@@ -1,10 +1,14 @@
 // The door scripts through dispatch by name, every argument given as text.
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "BuiltInEngines.h"
 #include "Dispatch.h"
 #include "Script.h"
+#include "orve3_bs6399_2.h"
 #include "private_folder.h"
 
 namespace orve::test {

@@ -1,4 +1,7 @@
 // The C binding under misuse: handles, pointers and callbacks that aren't what they should be.
+#include <gtest/gtest.h>
+#include <string>
+
 #include "orve3_bs6399_2_c.h"
 #include "published/BuiltInCase.h"
 

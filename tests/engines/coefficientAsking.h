@@ -1,6 +1,7 @@
 // Asks a coefficient engine as the library does.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 

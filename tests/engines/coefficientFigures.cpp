@@ -2,6 +2,9 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "engines/coefficientAsking.h"
 

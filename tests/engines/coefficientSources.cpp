@@ -1,7 +1,10 @@
 // Where figures come from, and the table files that replace them.
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "coefficients/TableFile.h"
 #include "coefficients/TableSet.h"

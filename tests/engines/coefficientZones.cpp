@@ -1,7 +1,10 @@
 // Zones, lengths and the members that never raise.
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <string>
+#include <vector>
 
 #include "engines/coefficientAsking.h"
 #include "support/AllocationCount.h"

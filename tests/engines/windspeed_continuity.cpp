@@ -1,6 +1,9 @@
 // Along every axis the results run on without a jump, except where a rule of the standard or of the engine
 // has one.
 #include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "engines/windspeed_support.h"
 

@@ -1,9 +1,12 @@
 // Inputs take anything; only reads of results refuse, each for its own inputs. Stages, allocation and
 // sectors.
+#include <gtest/gtest.h>
 #include <limits>
 #include <random>
 #include <set>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "common/Error.h"
 #include "engines/windspeed_support.h"

@@ -1,5 +1,8 @@
 // Published calculations and the tables' own checks.
 #include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "engines/windspeed_support.h"
 #include "windspeed/tables/Table22FetchFactor.h"

@@ -1,6 +1,9 @@
 // Sites by reference, the site dialogs, and where results come from.
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "common/Error.h"
 #include "common/Host.h"

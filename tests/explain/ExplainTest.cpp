@@ -3,8 +3,11 @@
 #include <Explain.h>
 #include <cmath>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <map>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "common/Narrow.h"
 #include "explain/FormulaValue.h"

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest.h>
 
 #include "common/NumberText.h"
+#include "orve3_bs6399_2.h"
 
 namespace orve::test {
 

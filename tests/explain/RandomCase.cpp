@@ -1,5 +1,7 @@
 #include "explain/RandomCase.h"
 
+#include "orve3_bs6399_2.h"
+
 namespace orve::test {
 
 namespace {

@@ -1,5 +1,8 @@
 // Zones, sizes, coefficients and loads on recording components.
 #include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "support/FakeComponents.h"
 

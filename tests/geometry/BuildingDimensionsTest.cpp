@@ -1,4 +1,6 @@
 // The stored building and the default diagonals.
+#include <gtest/gtest.h>
+
 #include "support/FakeComponents.h"
 
 namespace orve {

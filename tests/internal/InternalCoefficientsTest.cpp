@@ -1,5 +1,6 @@
 // Internal coefficients, the rules that write them, and internal loads.
 #include <cmath>
+#include <gtest/gtest.h>
 
 #include "support/FakeComponents.h"
 

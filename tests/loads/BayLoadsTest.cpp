@@ -1,10 +1,12 @@
 // Averages of a stepped load over the bays of a continuous member.
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <random>
 
 #include "loads/BayLoads.h"
+#include "orve3_bs6399_2.h"
 
 namespace orve {
 namespace {

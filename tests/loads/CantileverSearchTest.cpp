@@ -1,7 +1,9 @@
 // The zones on the cantilevers of every roof, and what lies under them.
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <string>
 
 #include "loads/MemberCase.h"
 

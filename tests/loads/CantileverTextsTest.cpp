@@ -1,4 +1,8 @@
 // The texts of cantilever zones.
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
 #include "loads/CantileverTexts.h"
 #include "support/FakeComponents.h"
 

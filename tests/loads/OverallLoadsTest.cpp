@@ -1,5 +1,6 @@
 // Overall loads by zone: external and internal pressures at their worst.
 #include <cmath>
+#include <gtest/gtest.h>
 
 #include "support/FakeComponents.h"
 

@@ -1,4 +1,8 @@
 // The first guess of the building from the member that the host designs.
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
 #include "loads/MemberCase.h"
 
 namespace orve {

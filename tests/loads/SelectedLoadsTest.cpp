@@ -1,4 +1,5 @@
 // The load chosen for a member, stepped loads, and the names of a zone.
+#include <gtest/gtest.h>
 #include <limits>
 
 #include "loads/MemberCase.h"

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "BuiltInEngines.h"
+#include "orve3_bs6399_2.h"
 #include "private_folder.h"
 
 namespace orve::test {

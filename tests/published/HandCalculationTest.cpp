@@ -1,4 +1,7 @@
 // The three loads that docs/validation.md works out by hand: the program prints the same digits.
+#include <gtest/gtest.h>
+
+#include "orve3_bs6399_2.h"
 #include "portal_building.h"
 #include "published/BuiltInCase.h"
 

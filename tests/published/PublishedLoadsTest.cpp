@@ -1,4 +1,7 @@
 // Published calculations, from the building to the net load, with the q that their sources print.
+#include <gtest/gtest.h>
+
+#include "orve3_bs6399_2.h"
 #include "published/BuiltInCase.h"
 
 namespace orve::test {

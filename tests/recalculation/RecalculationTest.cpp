@@ -3,8 +3,11 @@
 #include <charconv>
 #include <cmath>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "coefficients/CoefficientEngine.h"
 #include "common/Error.h"

@@ -3,11 +3,14 @@
 #include <Explain.h>
 #include <algorithm>
 #include <functional>
+#include <gtest/gtest.h>
 #include <portal_building.h>
 #include <set>
 #include <sheet/Content.h>
 #include <sheet/Derivation.h>
 #include <sheet/Sheet.h>
+#include <string>
+#include <vector>
 
 #include "explain/RandomCase.h"
 #include "sheet/SheetReader.h"

@@ -1,6 +1,8 @@
 // Drawings: outlines, tones, labels and what they say without being seen.
+#include <gtest/gtest.h>
 #include <portal_building.h>
 #include <sheet/Drawings.h>
+#include <string>
 
 #include "sheet/SheetReader.h"
 

@@ -1,8 +1,11 @@
 // Zones on plans and elevations: they cover their surface, each with the size that the library gives.
 #include <array>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <sheet/Content.h>
 #include <sheet/Drawings.h>
+#include <string>
+#include <vector>
 
 #include "explain/RandomCase.h"
 #include "sheet/SheetReader.h"

@@ -1,7 +1,9 @@
 // Digests, and texts in markup and style sheets.
+#include <gtest/gtest.h>
 #include <sheet/Derivation.h>
 #include <sheet/Html.h>
 #include <sheet/Sha256.h>
+#include <string>
 
 namespace orve::sheet {
 

@@ -1,8 +1,10 @@
 // The committed sheets of the sample cases.
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <sheet/Sheet.h>
+#include <string>
 
 #include "sheet/SheetReader.h"
 

@@ -1,7 +1,10 @@
 // The sheet as a reader gets it: its markup, its loads, its derivations and its digest.
 #include <ctime>
+#include <gtest/gtest.h>
 #include <portal_building.h>
 #include <sheet/Sheet.h>
+#include <string>
+#include <vector>
 
 #include "common/LoadText.h"
 #include "explain/FormulaValue.h"

@@ -1,4 +1,8 @@
 // The site, q and Ca on a recording component.
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
 #include "support/FakeComponents.h"
 
 namespace orve {

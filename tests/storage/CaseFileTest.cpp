@@ -1,5 +1,8 @@
 // Opening and saving a case: what the file holds, what a missing or odd value means, and the events.
 #include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "StorageTest.h"
 

@@ -2,8 +2,10 @@
 // it.
 #include <chrono>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <random>
 #include <signal.h>
+#include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>

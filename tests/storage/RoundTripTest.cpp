@@ -1,9 +1,12 @@
 // Random cases, saved and reopened, compared property by property. What is persisted is told by leaving out
 // what isn't: a new property of the object model is expected in the file.
 #include <cmath>
+#include <gtest/gtest.h>
 #include <map>
 #include <random>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "Dispatch.h"
 #include "StorageTest.h"

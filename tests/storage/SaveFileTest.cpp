@@ -1,4 +1,8 @@
 // The save-file manager: keys, state, dialogs and the recent-file list.
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
 #include "StorageTest.h"
 
 namespace orve::test {

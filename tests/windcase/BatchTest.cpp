@@ -3,7 +3,9 @@
 #include <Workers.h>
 #include <csignal>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <map>
+#include <string>
 
 #include "support/FakeComponents.h"
 #include "windcase/Program.h"

@@ -3,8 +3,10 @@
 #include <fcntl.h>
 #include <fstream>
 #include <iterator>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace orve::test {
 

@@ -1,4 +1,7 @@
 // Sheets through the real program.
+#include <gtest/gtest.h>
+#include <string>
+
 #include "windcase/Program.h"
 
 namespace orve::test {

@@ -1,6 +1,9 @@
 // The commands for one case, or two, through the real program.
 #include <BuiltInEngines.h>
 #include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "support/FakeComponents.h"
 #include "windcase/Program.h"
