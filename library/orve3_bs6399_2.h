@@ -22,6 +22,7 @@
 #include "loads/clsOverallAppliedLoads.h"
 #include "sitewind/BVe2X.h"
 #include "sitewind/clsDynamicPressure.h"
+#include "storage/CaseFileQueries.h"
 #include "storage/clsCommonDialog.h"
 #include "storage/clsSaveFile.h"
 #include "storage/clsWindCaseList.h"

@@ -79,6 +79,28 @@ fs::path UsableNativePath(const std::string& path) {
   return TextPath(NativePath(path));
 }
 
+fs::path FollowLinks(fs::path file) {
+  constexpr int mostLinks = 40;
+  std::error_code failure;
+  for (int followed = 0; followed < mostLinks; ++followed) {
+    const fs::path target = fs::read_symlink(file, failure);
+    if (failure) return file;
+    file = target.is_absolute() ? target : file.parent_path() / target;
+  }
+  return file;
+}
+
+std::string ResolvedPath(const std::string& path) {
+  std::error_code failure;
+  const fs::path file = FollowLinks(UsableNativePath(path));
+  fs::path resolved = fs::canonical(file, failure);
+  if (!failure) return PathText(resolved.make_preferred());
+  const fs::path folder = file.parent_path();
+  resolved = fs::canonical(folder.empty() ? fs::path(".") : folder, failure);
+  if (failure) return PathText(fs::absolute(file, failure).make_preferred());
+  return PathText((resolved / file.filename()).make_preferred());
+}
+
 std::string StoredPath(std::string path) {
   std::replace(path.begin(), path.end(), '/', '\\');
   return path;
@@ -110,7 +132,7 @@ std::string NativePath(const std::string& path) {
 }
 
 bool IsPlainFile(const std::string& path) {
-  return !path.empty() &&
+  return !path.empty() && path.find('\0') == std::string::npos &&
          Holds(path, [](const fs::file_status& status) { return fs::is_regular_file(status); });
 }
 

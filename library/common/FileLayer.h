@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "common/FileState.h"
+
 namespace orve {
 
 /// A larger case file is refused.
@@ -18,9 +20,16 @@ std::string ParentFolder(const std::string& storedPath);
 
 /// True if a plain file of that name exists.
 bool IsPlainFile(const std::string& path);
+/// The machine's full path of the file that reading and writing use, its links followed, whether it exists or
+/// not. Errors: 75 for an empty name or one with a zero byte.
+std::string ResolvedPath(const std::string& path);
+
+/// The state of the file of that name; that of no file also where it can't be asked for.
+FileState StateOfFile(const std::string& path);
+
 /// The whole content of a file, byte for byte. Errors: 5 for a file that is larger than `LargestFile`, 53,
-/// 57, 70, 75, 76.
-std::string ReadWholeFile(const std::string& path);
+/// 57, 70, 75, 76. `state`: what the file was when its reading began.
+std::string ReadWholeFile(const std::string& path, FileState* state = nullptr);
 
 enum class Durability {
   Flushed,  ///< On the disk before the call returns.
@@ -28,8 +37,9 @@ enum class Durability {
 };
 /// Writes a file so that a crash leaves either the old or the new content: the text goes to a temporary file
 /// beside the target and is renamed over it. Where the folder doesn't allow that, the file is written in
-/// place. A failed write leaves the old content, but for one in place. Errors: 57, 61, 70, 75, 76.
-void WriteWholeFile(const std::string& path, std::string_view content, Durability durability);
+/// place. A failed write leaves the old content, but for one in place. Gives the state of the new file.
+/// Errors: 57, 61, 70, 75, 76.
+FileState WriteWholeFile(const std::string& path, std::string_view content, Durability durability);
 /// Ends an existing file at a byte. False if that fails.
 bool TruncateFile(const std::string& path, std::size_t length);
 

@@ -96,16 +96,15 @@ void FlushFolder(const fs::path& folder) {
   if (fd) Flush(fd.Get());
 }
 
-/// The file that a name stands for once its links are followed, also if that file doesn't exist yet.
-fs::path FollowLinks(fs::path file) {
-  constexpr int mostLinks = 40;
-  std::error_code failure;
-  for (int followed = 0; followed < mostLinks; ++followed) {
-    const fs::path target = fs::read_symlink(file, failure);
-    if (failure) return file;
-    file = target.is_absolute() ? target : file.parent_path() / target;
-  }
-  return file;
+FileState StateOf(const struct stat& status) {
+  constexpr std::int64_t nanosecondsPerSecond = 1000000000;
+  return {status.st_dev, status.st_ino, status.st_size,
+          status.st_mtim.tv_sec * nanosecondsPerSecond + status.st_mtim.tv_nsec};
+}
+
+FileState StateOf(int fd) {
+  struct stat status {};
+  return ::fstat(fd, &status) == 0 ? StateOf(status) : FileState();
 }
 
 /// Writes from the first byte on and cuts what stood behind. 0, or the error.
@@ -152,6 +151,7 @@ class TemporaryFile {
   int Write(std::string_view content, Durability durability) {
     int cause = WriteAll(m_fd, content);
     if (cause == 0 && durability == Durability::Flushed) cause = Flush(m_fd);
+    m_state = StateOf(m_fd);
     if (::close(std::exchange(m_fd, -1)) != 0 && cause == 0) cause = errno;
     return cause;
   }
@@ -162,8 +162,11 @@ class TemporaryFile {
     return 0;
   }
 
+  const FileState& State() const { return m_state; }
+
  private:
   int m_fd = -1;
+  FileState m_state;
   fs::path m_path;
   fs::path m_target;
 };
@@ -174,13 +177,20 @@ bool FolderForbids(int cause) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::string& path) {
+FileState StateOfFile(const std::string& path) {
+  struct stat status {};
+  if (path.empty() || path.find('\0') != std::string::npos) return {};
+  return ::stat(NativePath(path).c_str(), &status) == 0 ? StateOf(status) : FileState();
+}
+
+std::string ReadWholeFile(const std::string& path, FileState* state) {
   const fs::path native = UsableNativePath(path);
   const Descriptor fd(::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};
   if (!fd || ::fstat(fd.Get(), &status) != 0) Raise(errno, path, native);
   if (S_ISDIR(status.st_mode)) Raise(EISDIR, path, native);
   RefuseLargeFile(static_cast<std::size_t>(std::max<off_t>(status.st_size, 0)), path);
+  if (state != nullptr) *state = StateOf(status);
 
   // One byte more than the file seems to hold, so that its end is seen in the same pass.
   std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
@@ -198,7 +208,7 @@ std::string ReadWholeFile(const std::string& path) {
   return content;
 }
 
-void WriteWholeFile(const std::string& path, std::string_view content, Durability durability) {
+FileState WriteWholeFile(const std::string& path, std::string_view content, Durability durability) {
   const fs::path target = FollowLinks(UsableNativePath(path));
   // The target itself is opened first, uncut, so that a protected file is refused whatever its folder allows.
   Descriptor present(::open(target.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK));
@@ -210,7 +220,9 @@ void WriteWholeFile(const std::string& path, std::string_view content, Durabilit
   };
   const auto writeInPlace = [&] {
     raiseUnlessDone(WriteInPlace(present.Get(), status, content, durability));
+    const FileState state = StateOf(present.Get());
     raiseUnlessDone(present.Close() ? 0 : errno);
+    return state;
   };
   if (present && !S_ISREG(status.st_mode)) return writeInPlace();
 
@@ -226,6 +238,7 @@ void WriteWholeFile(const std::string& path, std::string_view content, Durabilit
   if (present && FolderForbids(cause)) return writeInPlace();
   raiseUnlessDone(cause);
   if (durability == Durability::Flushed) FlushFolder(target.parent_path());
+  return temporary.State();
 }
 
 bool TruncateFile(const std::string& path, std::size_t length) {

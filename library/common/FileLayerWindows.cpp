@@ -8,6 +8,7 @@
 #include "common/DateText.h"
 #include "common/FileLayer.h"
 #include "common/FileLayerParts.h"
+#include "common/Host.h"
 
 namespace orve {
 
@@ -72,6 +73,16 @@ ErrorNumber NumberOf(DWORD cause, const fs::path& native) {
   RaiseFileError(NumberOf(cause, native), path);
 }
 
+FileState StateOf(HANDLE handle) {
+  BY_HANDLE_FILE_INFORMATION about{};
+  if (!::GetFileInformationByHandle(handle, &about)) return {};
+  const auto whole = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; };
+  return {about.dwVolumeSerialNumber, whole(about.nFileIndexHigh, about.nFileIndexLow),
+          static_cast<std::int64_t>(whole(about.nFileSizeHigh, about.nFileSizeLow)),
+          static_cast<std::int64_t>(
+              whole(about.ftLastWriteTime.dwHighDateTime, about.ftLastWriteTime.dwLowDateTime))};
+}
+
 /// ERROR_SUCCESS, or the error that stopped the writing.
 DWORD WriteAll(HANDLE handle, std::string_view content) {
   while (!content.empty()) {
@@ -127,7 +138,15 @@ bool ReplacingBarred(DWORD cause) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::string& path) {
+FileState StateOfFile(const std::string& path) {
+  if (path.empty() || path.find('\0') != std::string::npos) return {};
+  const FileHandle handle(::CreateFileW(TextPath(NativePath(path)).c_str(), FILE_READ_ATTRIBUTES,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  return handle ? StateOf(handle.Get()) : FileState();
+}
+
+std::string ReadWholeFile(const std::string& path, FileState* state) {
   const fs::path native = UsableNativePath(path);
   const FileHandle handle(::CreateFileW(native.c_str(), GENERIC_READ,
                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -135,6 +154,7 @@ std::string ReadWholeFile(const std::string& path) {
   LARGE_INTEGER size{};
   if (!handle || !::GetFileSizeEx(handle.Get(), &size)) Raise(::GetLastError(), path, native);
   RefuseLargeFile(static_cast<std::size_t>(size.QuadPart), path);
+  if (state != nullptr) *state = StateOf(handle.Get());
   std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
   std::size_t length = 0;
   while (length < content.size()) {
@@ -149,10 +169,8 @@ std::string ReadWholeFile(const std::string& path) {
   return content;
 }
 
-void WriteWholeFile(const std::string& path, std::string_view content, Durability durability) {
-  std::error_code failure;
-  fs::path target = UsableNativePath(path);
-  if (fs::is_symlink(target, failure)) target = fs::weakly_canonical(target, failure);
+FileState WriteWholeFile(const std::string& path, std::string_view content, Durability durability) {
+  const fs::path target = FollowLinks(UsableNativePath(path));
   FileHandle probe(Open(target, GENERIC_WRITE, OPEN_EXISTING));
   const bool present = static_cast<bool>(probe);
   if (!present && ::GetLastError() != ERROR_FILE_NOT_FOUND) Raise(::GetLastError(), path, target);
@@ -167,6 +185,8 @@ void WriteWholeFile(const std::string& path, std::string_view content, Durabilit
   if (cause != ERROR_SUCCESS) ::DeleteFileW(temporary.c_str());
   if (present && ReplacingBarred(cause)) cause = WriteInPlace(target, content, durability);
   if (cause != ERROR_SUCCESS) Raise(cause, path, target);
+  // Asked for by name: the replacement takes over some of the earlier file's marks.
+  return StateOfFile(path);
 }
 
 bool TruncateFile(const std::string& path, std::size_t length) {

@@ -136,6 +136,7 @@ class clsCurrentCase : public std::enable_shared_from_this<clsCurrentCase> {
 
  private:
   friend std::shared_ptr<clsCurrentCase> CreateCurrentCase();
+  friend bool CaseFileChanged();
   friend class clsBuildingDimensions;
   friend class clsDynamicPressure;
   friend class clsExternalCoefficients;

@@ -99,7 +99,10 @@ void clsSaveFile::Data(const std::string& section, const std::string& key, const
 }
 
 void clsSaveFile::ReadData(const std::string& fileName) {
-  const std::string text = FileText(ReadWholeFile(fileName));
+  FileState state;
+  const std::string text = FileText(ReadWholeFile(fileName, &state));
+  m_knownName = StoredPath(fileName);
+  m_knownState = state;
   m_DataBuffer = text.find('\r') == None ? WithCarriageReturns(text) : text;
 }
 
@@ -108,7 +111,15 @@ void clsSaveFile::WriteData(const std::string& fileName) {
   Data("UpdateLog", clsCommon().AppVersion(), std::string(), LongDateText(now) + ", " + LongTimeText(now));
   if (m_DataBuffer.size() > LargestFile)
     throw Error(ErrorNumber::InvalidArgument, "The case is larger than 16 MB: " + StoredPath(fileName));
-  WriteWholeFile(fileName, m_DataBuffer, Durability::Flushed);
+  m_knownState = WriteWholeFile(fileName, m_DataBuffer, Durability::Flushed);
+  m_knownName = StoredPath(fileName);
+}
+
+bool clsSaveFile::FileChanged() const {
+  if (m_FileName.empty()) return false;
+  const FileState present = StateOfFile(m_FileName);
+  const FileState expected = m_FileName == m_knownName ? m_knownState : FileState();
+  return present != expected && present != m_knownState;
 }
 
 }  // namespace orve

@@ -62,6 +62,8 @@ bool clsSaveFile::NewFile() {
   Dirty(false);
   FileName(std::string());
   m_DataBuffer.clear();
+  m_knownName.clear();
+  m_knownState = {};
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "common/Event.h"
+#include "common/FileState.h"
 
 namespace orve {
 
@@ -70,6 +71,10 @@ class clsSaveFile {
   /// Adds the log line and writes the document's text to a file. Errors: those of the file system.
   void WriteData(const std::string& fileName);
 
+  /// True if the file named `FileName` isn't as the last `ReadData` or `WriteData` here left it, or is one
+  /// that they never touched. False without a name.
+  bool FileChanged() const;
+
   /// Entry of the recent-file list, counted from 1, upper case; empty if there is none.
   std::string RecentFile(std::int16_t index) const;
   void RecentFile(std::int16_t index, const std::string& value);
@@ -105,6 +110,8 @@ class clsSaveFile {
   bool m_Dirty = false;
   std::string m_FileName;
   std::string m_DataBuffer;
+  std::string m_knownName;  ///< The file that was last read or written, and its state then.
+  FileState m_knownState;
 };
 
 }  // namespace orve
