@@ -54,22 +54,23 @@ bool WindSpeedComponent::SelectDlg() {
 bool WindSpeedComponent::Edit() {
   const auto dialog = Host().SiteEdit;
   if (!dialog || !dialog()) return false;
-  AcceptSite();
+  m_siteFault.clear();
   Calculate();
   return true;
 }
 
 void WindSpeedComponent::GBSite() {
   const SiteFile site = ReadSite(m_dataPath, m_siteReference);
-  m_soughtReference = m_siteReference;
   m_siteEdited = site.edited && site.fault.empty();
   m_siteFault = site.fault;
-  if (site.fault.empty()) {
-    SetSite(site.values);
-    m_acceptedReference.clear();
-  } else if (!m_soughtReference.empty() && m_soughtReference == m_acceptedReference) {
-    m_siteFault.clear();
-  }
+  if (site.fault.empty()) SetSite(site.values);
+}
+
+void WindSpeedComponent::ForgetSite() {
+  m_siteReference.clear();
+  m_siteEdited = false;
+  SetSite(SiteValues{});
+  m_siteFault.clear();
 }
 
 void WindSpeedComponent::SetSite(const SiteValues& values) {
@@ -79,12 +80,6 @@ void WindSpeedComponent::SetSite(const SiteValues& values) {
     for (std::size_t index = 0; index < kSectorValues; ++index)
       SetSectorValue(static_cast<WindSectors>(sector), static_cast<Input>(index),
                      values.sectors[sector][index]);
-}
-
-void WindSpeedComponent::AcceptSite() {
-  if (m_siteFault.empty()) return;
-  m_siteFault.clear();
-  m_acceptedReference = m_soughtReference;
 }
 
 void WindSpeedComponent::Risk(float value) {
@@ -104,15 +99,11 @@ void WindSpeedComponent::TopogMode(std::int32_t value) {
 }
 
 void WindSpeedComponent::SiteAltitude(float value) {
-  if (!Store(m_inputs.site.altitude, value)) return;
-  m_changes.speed = true;
-  AcceptSite();
+  if (Store(m_inputs.site.altitude, value)) m_changes.speed = true;
 }
 
 void WindSpeedComponent::BaseV(float value) {
-  if (!Store(m_inputs.site.basicWindSpeed, value)) return;
-  m_changes.speed = true;
-  AcceptSite();
+  if (Store(m_inputs.site.basicWindSpeed, value)) m_changes.speed = true;
 }
 
 float WindSpeedComponent::SectorValue(WindSectors sector, Input input) const {
@@ -123,7 +114,7 @@ void WindSpeedComponent::SetSectorValue(WindSectors sector, Input input, float v
   const std::size_t index = SectorIndex(sector);
   if (!Store(m_inputs.site.sectors[index][static_cast<std::size_t>(input)], value)) return;
   m_changes.site[index] = true;
-  AcceptSite();
+  m_siteFault.clear();
 }
 
 void WindSpeedComponent::H(float value) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "sitewind/BVe2X.h"
+#include "sitewind/SiteState.h"
 #include "windspeed/Calculation.h"
 #include "windspeed/Inputs.h"
 #include "windspeed/WindSpeedSources.h"
@@ -13,7 +14,7 @@ namespace orve::windspeed {
 /// Inputs take anything and read back equal. Reads of results raise: 5 before the first `Calculate`, for an
 /// input that isn't usable and for a site that wasn't found; 6 for a result too large; 9 for a sector outside
 /// 0 to 11, as all members by sector do.
-class WindSpeedComponent final : public BVe2X, public WindSpeedSources {
+class WindSpeedComponent final : public BVe2X, public WindSpeedSources, public SiteState {
  public:
   std::string TypeName() const override { return "BVe2X"; }
 
@@ -37,6 +38,12 @@ class WindSpeedComponent final : public BVe2X, public WindSpeedSources {
   void GBSite() override;
   /// 1 if the site file that was loaded last says so.
   std::int32_t Wizard() const override { return m_siteEdited ? 1 : 0; }
+
+  void ForgetSite() override;
+  /// Set by a `GBSite` that finds no usable file; a good one, an accepted `Edit` and a sector value that
+  /// differs from the one held empty it. Altitude and basic wind speed don't.
+  std::string SiteFault() const override { return m_siteFault; }
+  void SiteFault(const std::string& value) override { m_siteFault = value; }
 
   void Risk(float value) override;
   void Season(std::int32_t value) override;
@@ -106,10 +113,6 @@ class WindSpeedComponent final : public BVe2X, public WindSpeedSources {
   float SectorValue(WindSectors sector, Input input) const;
   void SetSectorValue(WindSectors sector, Input input, float value);
   void SetSite(const SiteValues& values);
-  /// A site value was changed by hand: the values at hand count from now on for a site that has no good file,
-  /// and for its next `GBSite` too. A value that is sent again unchanged isn't enough, since the library
-  /// sends all of them.
-  void AcceptSite();
 
   void RequireResults() const;
   /// The sector's index once it and the results behind a site result are sure.
@@ -121,9 +124,7 @@ class WindSpeedComponent final : public BVe2X, public WindSpeedSources {
 
   std::string m_dataPath;
   std::string m_siteReference;
-  std::string m_soughtReference;    // of the last GBSite
-  std::string m_siteFault;          // why its values aren't there; empty if all is well
-  std::string m_acceptedReference;  // without a good file, but its values were entered since
+  std::string m_siteFault;  // why the values of the last GBSite aren't there; empty if all is well
   bool m_siteEdited = false;
   bool m_autoWizard = false;
   bool m_autoSite = false;

@@ -1,10 +1,13 @@
 // A new case: the one place that makes all the data objects.
+#include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "internal/clsInternalCoefficients.h"
 #include "loads/clsCantileverWindLoads.h"
 #include "loads/clsOverallAppliedLoads.h"
+#include "sitewind/BVe2X.h"
+#include "sitewind/SiteState.h"
 #include "sitewind/clsDynamicPressure.h"
 #include "storage/clsSaveFile.h"
 
@@ -21,6 +24,7 @@ void clsCurrentCase::m_iclsSaveFile_NewFile() {
   Description("");
   SetCreated(0);
   SetModified(0);
+  if (auto* state = dynamic_cast<SiteState*>(basBS6399_2::BreVe.get())) state->ForgetSite();
   m_BuildingDimensions = std::make_shared<clsBuildingDimensions>();
   m_DynamicPressure = std::make_shared<clsDynamicPressure>();
   m_ExternalCoefficients = std::make_shared<clsExternalCoefficients>();

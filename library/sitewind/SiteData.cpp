@@ -41,6 +41,7 @@ void clsDynamicPressure::SiteEdited(bool value) {
 
 void clsDynamicPressure::GridReference(const std::string& value) {
   const auto self = weak_from_this().lock();
+  if (value.empty()) m_SiteFault.clear();
   if (!StoreAndMarkDirty(m_GridReference, value)) return;
   SiteDirty(true);
   SiteSelected(true);
@@ -78,6 +79,7 @@ void clsDynamicPressure::SectorValue(WindSectors windSector, SectorValues& value
   const auto self = weak_from_this().lock();
   const auto sector = static_cast<std::int32_t>(Resolve(windSector));
   if (sector < 0 || sector >= SectorCount) RaiseSubscript("wind sector", sector, 0, SectorCount - 1);
+  if (Differs(values[sector], value)) m_SiteFault.clear();
   if (!StoreAndMarkDirty(values[sector], value)) return;
   SiteEdited(true);
   RequireCurrentCase().BreVe_Dirty(true);

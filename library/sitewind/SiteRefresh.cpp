@@ -2,6 +2,7 @@
 #include "core/Marks.h"
 #include "sitewind/BVe2X.h"
 #include "sitewind/SectorInputs.h"
+#include "sitewind/SiteState.h"
 #include "sitewind/clsDynamicPressure.h"
 
 namespace orve {
@@ -19,6 +20,11 @@ void SendTopographyMode(BVe2X& component, SaBasedOnTypes saBasedOn) {
   if (saBasedOn == SaBasedOnTypes::Topography) component.TopogMode(TopographyByFeature);
 }
 
+std::string SiteFaultOf(const BVe2X& component) {
+  const auto* state = dynamic_cast<const SiteState*>(&component);
+  return state ? state->SiteFault() : std::string();
+}
+
 }  // namespace
 
 void clsDynamicPressure::RefreshWindComponent() {
@@ -28,14 +34,12 @@ void clsDynamicPressure::RefreshWindComponent() {
   component.Risk(AnnualRisk());
   component.Season(static_cast<std::int32_t>(Duration()));
   component.StartMonth(static_cast<std::int32_t>(StartMonth()));
-  if (!GridReference().empty() && SiteDirty()) {
-    LoadSiteByGridReference(GridReference());
-    return;
-  }
+  if (!GridReference().empty() && SiteDirty() && LoadSiteByGridReference(GridReference())) return;
   SendTopographyMode(component, SaBasedOn());
   component.SiteAltitude(SiteAltitude());
   component.BaseV(BasicWindSpeed());
   for (int sector = 0; sector < SectorCount; ++sector) SendSectorValues(component, sector);
+  if (auto* state = dynamic_cast<SiteState*>(&component)) state->SiteFault(m_SiteFault);
   if (component.A() <= 0) component.A(1);
   component.Calculate();
   root->BreVe_Dirty(false);
@@ -56,15 +60,19 @@ void clsDynamicPressure::SendSectorValues(BVe2X& component, int sector) {
   }
 }
 
-void clsDynamicPressure::LoadSiteByGridReference(const std::string& reference) {
+// False if the component says that it has no such site. The values of the case then stay, and are sent again:
+// the component may hold those of another case.
+bool clsDynamicPressure::LoadSiteByGridReference(const std::string& reference) {
   const auto self = weak_from_this().lock();
   const auto component = HeldBreVe();
   component->SiteID(reference);
   component->GBSite();
   if (component->Wizard() == WizardEdited) SiteEdited(true);
   component->Calculate();
-  CopySiteFromComponent(*component);
+  m_SiteFault = SiteFaultOf(*component);
+  if (m_SiteFault.empty()) CopySiteFromComponent(*component);
   SiteDirty(false);
+  return m_SiteFault.empty();
 }
 
 void clsDynamicPressure::CopySiteFromComponent(const BVe2X& component) {
@@ -116,6 +124,7 @@ bool clsDynamicPressure::EditSite() {
   // The values come first: a handler that reads a result at the mark may send them back to the component.
   const clsDynamicPressure before = *this;
   CopySiteFromComponent(*component);
+  m_SiteFault = SiteFaultOf(*component);
   const bool differs = SiteDiffersFrom(before);
   SiteEdited(true);
   if (differs) MarkDirty();

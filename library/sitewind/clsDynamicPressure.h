@@ -161,7 +161,7 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
 
   bool PickSite(bool (BVe2X::*dialog)());
   void RefreshWindComponent();
-  void LoadSiteByGridReference(const std::string& reference);
+  bool LoadSiteByGridReference(const std::string& reference);
   void SendSectorValues(BVe2X& component, int sector);
   void CopySiteFromComponent(const BVe2X& component);
   bool SiteDiffersFrom(const clsDynamicPressure& other) const;
@@ -186,6 +186,7 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
   std::int16_t m_Method = 0;
   bool m_ManualResults = false;
   std::string m_GridReference;
+  std::string m_SiteFault;  // why the site of the reference isn't there, as the component said
   std::int16_t m_SaBasedOn = 0;
   float m_SiteAltitude = 0;
   float m_BasicWindSpeed = 0;

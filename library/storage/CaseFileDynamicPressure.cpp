@@ -93,6 +93,10 @@ void Describe(CaseSection& section, D& site, LoadSite loadSite) {
 void clsDynamicPressure::ReadFromSaveFile() {
   CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Read);
   Describe(section, *this, [this] { RefreshWindComponent(); });
+  // Sector values of its own make up for a site that isn't there.
+  if (!SiteEdited() || m_SiteFault.empty()) return;
+  m_SiteFault.clear();
+  RequireCurrentCase().BreVe_Dirty(true);
 }
 
 void clsDynamicPressure::WriteToSaveFile() {

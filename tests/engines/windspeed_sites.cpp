@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "BuiltInEngines.h"
 #include "common/Error.h"
 #include "common/Host.h"
 #include "engines/windspeed_support.h"
+#include "support/FakeComponents.h"
 #include "windspeed/SiteFile.h"
 
 namespace orve::test {
@@ -76,19 +78,17 @@ TEST_F(WindSpeedSites, LoadsTheValuesOfTheReference) {
   EXPECT_EQ(m_engine->Wizard(), 1);
 }
 
-TEST_F(WindSpeedSites, UnknownReferenceKeepsTheValuesAndRefusesUntilOneIsChanged) {
+TEST_F(WindSpeedSites, UnknownReferenceKeepsTheValuesAndRefusesUntilASectorIsEntered) {
   Load("NOWHERE");
   EXPECT_EQ(m_engine->BaseV(), 20.0F);
   EXPECT_NE(FaultOf(*m_engine).find("site NOWHERE isn't in"), std::string::npos);
   EXPECT_EQ(m_engine->Sp(), 1.0F);
-  m_engine->BaseV(20);  // the same value again
+  m_engine->BaseV(21);
+  m_engine->SiteAltitude(8);
+  m_engine->setToSea(kWest, 50);  // the same value again
   EXPECT_NE(FaultOf(*m_engine), "");
   m_engine->setToSea(kWest, 7);
   EXPECT_EQ(FaultOf(*m_engine), "");
-  Load("NOWHERE");  // as when the case with these values is opened again
-  EXPECT_EQ(FaultOf(*m_engine), "");
-  Load("ELSEWHERE");
-  EXPECT_NE(FaultOf(*m_engine), "");
   Load("AB 12");
   EXPECT_EQ(FaultOf(*m_engine), "");
   Load("NOWHERE");
@@ -150,6 +150,132 @@ TEST_F(WindSpeedSites, DialogsAreTheHosts) {
   EXPECT_GT(m_engine->BSGust(kWest), before) << "results are current after Edit";
   m_engine->AutoWizard(true);
   EXPECT_TRUE(m_engine->AutoWizard());
+}
+
+// Cases on the built-in engine, with one good site file.
+struct SiteCase : testing::Test {
+  SiteCase() {
+    RegisterBuiltInEngines();
+    root = CreateCurrentCase();
+    root->breDataPath(folder.Path(""));
+    std::ofstream(folder.Path("GOOD.site")) << GoodSite();
+  }
+  ~SiteCase() override { ReleaseProcess(); }
+
+  clsDynamicPressure& Site() { return *root->DynamicPressure(); }
+  std::string Fault() {
+    try {
+      Site().DynamicPressure_q(WindAreas::waRoof, kWest);
+    } catch (const Error& error) {
+      return error.what();
+    }
+    return "";
+  }
+  bool Refuses(const std::string& reference) {
+    return Fault().find("The site " + reference + " isn't in") != std::string::npos;
+  }
+  void Building() {
+    root->BuildingDimensions()->Roof_Height(8);
+    Site().BasicWindSpeed(23);
+  }
+  std::string Saved(const char* name) {
+    root->Location(folder.Path(name));
+    root->Save();
+    return folder.Path(name);
+  }
+  float SumOfSectors() {
+    float sum = 0;
+    for (int index = 0; index < 12; ++index) {
+      const auto sector = WindSectors(index);
+      sum += Site().FetchesToSea(sector) + Site().FetchesInTown(sector) +
+             Site().ObstructionHeight_Ho(sector) + Site().BaseAltitude(sector);
+    }
+    return sum;
+  }
+
+  PrivateFolder folder;
+  std::shared_ptr<clsCurrentCase> root;
+};
+
+TEST_F(SiteCase, AMissingSiteRefusesUntilASectorIsEnteredAndLendsNothingFromTheCaseBefore) {
+  Building();
+  Site().GridReference("GOOD");
+  EXPECT_EQ(Fault(), "");
+  EXPECT_GT(SumOfSectors(), 0);
+  root->Clear();
+  Building();
+  Site().GridReference("NOPE");
+  EXPECT_TRUE(Refuses("NOPE"));
+  EXPECT_EQ(Site().BasicWindSpeed(), 23);
+  EXPECT_EQ(SumOfSectors(), 0);
+  Site().BasicWindSpeed(24);
+  Site().SiteAltitude(50);
+  EXPECT_TRUE(Refuses("NOPE"));
+  Site().FetchesToSea(kWest, 30);
+  EXPECT_EQ(Fault(), "");
+  EXPECT_EQ(SumOfSectors(), 30);
+  Site().GridReference("");
+  EXPECT_EQ(Fault(), "");
+  EXPECT_EQ(SumOfSectors(), 30);
+  Site().GridReference("NOPE");
+  EXPECT_TRUE(Refuses("NOPE")) << "a new load, and nothing entered since";
+  EXPECT_EQ(SumOfSectors(), 30);
+  Site().GridReference("");
+  EXPECT_EQ(Fault(), "");
+  Site().GridReference("GOOD");
+  EXPECT_EQ(Site().FetchesToSea(kWest), 18);
+  Site().GridReference("NOPE");
+  Site().FetchesToSea(kWest, 7);
+  EXPECT_TRUE(Refuses("NOPE")) << "entered before the load";
+  EXPECT_EQ(Site().FetchesToSea(kWest), 7) << "and not lost";
+  root->Clear();
+  Building();
+  EXPECT_EQ(Fault(), "");
+  EXPECT_EQ(SumOfSectors(), 0);
+}
+
+TEST_F(SiteCase, ACaseIsOpenedWithoutItsSiteFile) {
+  Building();
+  Site().GridReference("GOOD");
+  EXPECT_EQ(Fault(), "");
+  Site().SiteAltitude(60);
+  const std::string byReference = Saved("by reference.wlc");
+  Site().SiteEdited(true);
+  const std::string edited = Saved("edited.wlc");
+  root->Clear();
+  Site().GridReference("NOPE");
+  Site().SiteEdited(true);
+  const std::string editedZeros = Saved("edited zeros.wlc");
+  std::filesystem::remove(folder.Path("GOOD.site"));
+  for (const bool otherBefore : {false, true}) {
+    if (otherBefore) root->OpenExisting(edited);
+    ASSERT_TRUE(root->OpenExisting(byReference));
+    EXPECT_TRUE(Refuses("GOOD"));
+    EXPECT_EQ(Site().SiteAltitude(), 60);
+    EXPECT_EQ(SumOfSectors(), 0);
+  }
+  ASSERT_TRUE(root->OpenExisting(edited));
+  root->BuildingDimensions()->Roof_Height(9);
+  EXPECT_EQ(Fault(), "");
+  EXPECT_EQ(Site().FetchesToSea(kWest), 18);
+  root->IsDirty(false);
+  ASSERT_TRUE(root->OpenExisting(editedZeros));
+  Building();
+  EXPECT_EQ(Fault(), "") << "its values are those that were held, and its own";
+}
+
+TEST_F(SiteCase, AnObjectOfAnEarlierCaseLendsNothingEither) {
+  Building();
+  Site().GridReference("GOOD");
+  EXPECT_EQ(Fault(), "");
+  const auto stale = root->DynamicPressure();
+  root->Clear();
+  Building();
+  Site().GridReference("NOPE");
+  stale->BasicWindSpeed(30);
+  stale->DynamicPressure_q(WindAreas::waRoof, kWest);
+  EXPECT_EQ(SumOfSectors(), 0);
+  EXPECT_TRUE(Refuses("NOPE"));
 }
 
 TEST(WindSpeedSampleSites, AllSamplesLoad) {
