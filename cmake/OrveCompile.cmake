@@ -18,6 +18,18 @@ endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+# The sources of a module compiled a dozen at a time, which more than halves the time of a build. A build that goes
+# without precompiled headers, as for a compiler cache, compiles them one by one too; so does the clang preset, so that
+# a source that leans on its neighbours is found.
+set(orve_unity_default ON)
+if(CMAKE_DISABLE_PRECOMPILE_HEADERS)
+  set(orve_unity_default OFF)
+endif()
+option(ORVE_UNITY "Compile the sources of a module a dozen at a time" ${orve_unity_default})
+function(orve_unity target)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${ORVE_UNITY} UNITY_BUILD_BATCH_SIZE 12)
+endfunction()
+
 # The standard headers that most sources need, compiled once for a target. The clang preset goes without, so that a
 # source that forgets an include is found.
 option(ORVE_PRECOMPILE "Compile the standard headers once for each target" ON)

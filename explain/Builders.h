@@ -10,6 +10,8 @@
 
 namespace orve::explain {
 
+inline constexpr const char* kMetres = "m";
+
 /// A zone of the open case.
 struct ZoneAddress {
   BuildingAreas area;

@@ -9,7 +9,6 @@ namespace orve::explain {
 
 namespace {
 
-constexpr const char* kMetres = "m";
 constexpr const char* kKilometres = "km";
 constexpr const char* kSpeed = "m/s";
 

@@ -9,8 +9,6 @@ namespace orve::explain {
 
 namespace {
 
-constexpr const char* kMetres = "m";
-
 /// What the component says of the zone that the last read of a coefficient left selected.
 struct Selected {
   std::int32_t type;

@@ -153,7 +153,6 @@ class Tokens {
   }
 
  private:
-  static bool IsDigit(char c) { return c >= '0' && c <= '9'; }
   static bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
   void Add(std::string_view& text) {

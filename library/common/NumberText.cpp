@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "common/Error.h"
+#include "common/LetterCase.h"
 #include "common/Narrow.h"
 
 namespace orve {
@@ -103,10 +104,6 @@ std::string Shortest(Float value) {
   const auto end = std::to_chars(text, text + sizeof text, value, form).ptr;
   std::replace(text, end, 'e', 'E');
   return std::string(text, end);
-}
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
 }
 
 std::size_t SkipDigits(std::string_view text, std::size_t position) {

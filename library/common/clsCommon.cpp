@@ -20,10 +20,6 @@ void RefuseZeroDivisor(bool zero) {
   if (zero) throw Error(ErrorNumber::DivisionByZero, "Division by zero");
 }
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 std::string CutFront(std::string text) {
   while (!text.empty() && !IsDigit(text.front()) && !IsNumericText(text.substr(0, 2))) text.erase(0, 1);
   return text;

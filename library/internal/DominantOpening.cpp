@@ -15,24 +15,20 @@ namespace {
 constexpr double Ratio2Factor = 0.75;
 constexpr double Ratio3Factor = 0.9;
 
-std::shared_ptr<clsExternalCoefficients> External() {
-  return CaseExternalCoefficients();
-}
-
 }  // namespace
 
 std::int16_t clsInternalCoefficients::DominantOpening_ZoneIndexFrom(Faces face) const {
-  return External()->ZoneIndexFrom(BuildingAreas::baWalls, Resolve(face));
+  return CaseExternalCoefficients()->ZoneIndexFrom(BuildingAreas::baWalls, Resolve(face));
 }
 
 std::int16_t clsInternalCoefficients::DominantOpening_ZoneIndexTo(Faces face) const {
-  return External()->ZoneIndexTo(BuildingAreas::baWalls, Resolve(face), ResultsScreens(-1));
+  return CaseExternalCoefficients()->ZoneIndexTo(BuildingAreas::baWalls, Resolve(face), ResultsScreens(-1));
 }
 
 std::string clsInternalCoefficients::DominantOpening_ZoneDescription(Faces face,
                                                                      std::int16_t zoneIndex) const {
   const std::int16_t zone = zoneIndex == -1 ? DominantOpening_ZoneIndex() : zoneIndex;
-  return External()->Hybrid_ZoneDescription(BuildingAreas::baWalls, Resolve(face), zone);
+  return CaseExternalCoefficients()->Hybrid_ZoneDescription(BuildingAreas::baWalls, Resolve(face), zone);
 }
 
 WallZones clsInternalCoefficients::DominantOpening_SelectedZoneIndex(Faces face) const {
@@ -48,7 +44,7 @@ template <class ReadCpe>
 float clsInternalCoefficients::SelectedZoneCpe(Faces face, ReadCpe readCpe) const {
   const Faces onFace = Resolve(face);
   const std::string_view text = PublishedText(DominantOpening_SelectedZoneIndex(onFace));
-  const auto external = External();
+  const auto external = CaseExternalCoefficients();
   const std::int16_t to = external->ZoneIndexTo(BuildingAreas::baWalls, onFace, ResultsScreens(-1));
   const std::int16_t from = external->ZoneIndexFrom(BuildingAreas::baWalls, onFace);
   const ZoneSearch search = FindZone(from, to, text, [&](std::int16_t zone) {

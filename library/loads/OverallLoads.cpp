@@ -70,10 +70,6 @@ float RoofOrWallLoad(BuildingAreas area, Faces face, std::int16_t zone, Beats be
   return WorstDifference(outside, inside, beats);
 }
 
-std::shared_ptr<clsExternalCoefficients> External() {
-  return CaseExternalCoefficients();
-}
-
 }  // namespace
 
 void clsOverallAppliedLoads::BuildingArea(BuildingAreas value) {
@@ -96,27 +92,30 @@ std::int16_t clsOverallAppliedLoads::Resolve(std::int16_t zoneIndex) const {
 }
 
 std::int16_t clsOverallAppliedLoads::ZoneIndexFrom(BuildingAreas buildingArea, Faces face) const {
-  return External()->ZoneIndexFrom(Resolve(buildingArea), Resolve(face));
+  return CaseExternalCoefficients()->ZoneIndexFrom(Resolve(buildingArea), Resolve(face));
 }
 
 std::int16_t clsOverallAppliedLoads::ZoneIndexTo(BuildingAreas buildingArea, Faces face) const {
-  return External()->ZoneIndexTo(Resolve(buildingArea), Resolve(face), ResultsScreens::Overall_Applied_Loads);
+  return CaseExternalCoefficients()->ZoneIndexTo(Resolve(buildingArea), Resolve(face),
+                                                 ResultsScreens::Overall_Applied_Loads);
 }
 
 std::string clsOverallAppliedLoads::Hybrid_ZoneDescription(BuildingAreas buildingArea, Faces face,
                                                            std::int16_t zoneIndex) const {
-  return External()->Hybrid_ZoneDescription(Resolve(buildingArea), Resolve(face), Resolve(zoneIndex));
+  return CaseExternalCoefficients()->Hybrid_ZoneDescription(Resolve(buildingArea), Resolve(face),
+                                                            Resolve(zoneIndex));
 }
 
 std::string clsOverallAppliedLoads::Hybrid_ZoneDimensions(BuildingAreas buildingArea, Faces face,
                                                           std::int16_t zoneIndex) const {
-  return External()->Hybrid_ZoneDimensions(Resolve(buildingArea), Resolve(face), Resolve(zoneIndex),
-                                           ResultsScreens::Overall_Applied_Loads);
+  return CaseExternalCoefficients()->Hybrid_ZoneDimensions(
+      Resolve(buildingArea), Resolve(face), Resolve(zoneIndex), ResultsScreens::Overall_Applied_Loads);
 }
 
 std::string clsOverallAppliedLoads::Hybrid_ExternalAppliedLoads(BuildingAreas buildingArea, Faces face,
                                                                 std::int16_t zoneIndex) const {
-  return External()->Hybrid_ExternalAppliedLoads(Resolve(buildingArea), Resolve(face), Resolve(zoneIndex));
+  return CaseExternalCoefficients()->Hybrid_ExternalAppliedLoads(Resolve(buildingArea), Resolve(face),
+                                                                 Resolve(zoneIndex));
 }
 
 std::string clsOverallAppliedLoads::Hybrid_InternalAppliedLoads(BuildingAreas buildingArea, Faces face,
@@ -125,7 +124,8 @@ std::string clsOverallAppliedLoads::Hybrid_InternalAppliedLoads(BuildingAreas bu
   const Faces onFace = Resolve(face);
   const std::int16_t zone = Resolve(zoneIndex);
   if (!IsRoofOrWalls(area)) return {};
-  const auto windFace = static_cast<Faces>(External()->Hybrid_WindFromFace(area, onFace, zone));
+  const auto windFace =
+      static_cast<Faces>(CaseExternalCoefficients()->Hybrid_WindFromFace(area, onFace, zone));
   return CaseInternalCoefficients()->Hybrid_InternalAppliedLoads(windFace);
 }
 
@@ -136,7 +136,7 @@ float clsOverallAppliedLoads::Hybrid_OverallAppliedLoad_Pressure(BuildingAreas b
   const std::int16_t zone = Resolve(zoneIndex);
   if (IsRoofOrWalls(area)) return RoofOrWallLoad(area, onFace, zone, std::greater<float>());
   if (area != BuildingAreas::baParapet) return 0;
-  return External()->Hybrid_ExternalAppliedLoad_Pressure(area, onFace, zone);
+  return CaseExternalCoefficients()->Hybrid_ExternalAppliedLoad_Pressure(area, onFace, zone);
 }
 
 float clsOverallAppliedLoads::Hybrid_OverallAppliedLoad_Suction(BuildingAreas buildingArea, Faces face,
@@ -146,7 +146,8 @@ float clsOverallAppliedLoads::Hybrid_OverallAppliedLoad_Suction(BuildingAreas bu
   const std::int16_t zone = Resolve(zoneIndex);
   if (IsRoofOrWalls(area)) return RoofOrWallLoad(area, onFace, zone, std::less<float>());
   if (area != BuildingAreas::baParapet) return 0;
-  return basBS6399_2::Common->ReverseSign(External()->Hybrid_ExternalAppliedLoad_Suction(area, onFace, zone));
+  return basBS6399_2::Common->ReverseSign(
+      CaseExternalCoefficients()->Hybrid_ExternalAppliedLoad_Suction(area, onFace, zone));
 }
 
 std::string clsOverallAppliedLoads::Hybrid_OverallAppliedLoads(BuildingAreas buildingArea, Faces face,

@@ -8,7 +8,7 @@ namespace orve {
 
 namespace {
 
-constexpr const char* Section = "BuildingDimensions";
+constexpr const char* BuildingSection = "BuildingDimensions";
 
 void Describe(CaseSection& section, clsBuildingDimensions& building) {
   using B = clsBuildingDimensions;
@@ -55,12 +55,12 @@ void Describe(CaseSection& section, clsBuildingDimensions& building) {
 }  // namespace
 
 void clsBuildingDimensions::ReadFromSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Read);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, BuildingSection, CaseSection::Way::Read);
   Describe(section, *this);
 }
 
 void clsBuildingDimensions::WriteToSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Write);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, BuildingSection, CaseSection::Way::Write);
   Describe(section, *this);
 }
 

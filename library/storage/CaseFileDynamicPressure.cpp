@@ -9,7 +9,7 @@ namespace orve {
 
 namespace {
 
-constexpr const char* Section = "DynamicPressure";
+constexpr const char* DynamicPressureSection = "DynamicPressure";
 
 using D = clsDynamicPressure;
 
@@ -91,7 +91,7 @@ void Describe(CaseSection& section, D& site, LoadSite loadSite) {
 }  // namespace
 
 void clsDynamicPressure::ReadFromSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Read);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, DynamicPressureSection, CaseSection::Way::Read);
   Describe(section, *this, [this] { RefreshWindComponent(); });
   // Sector values of its own make up for a site that isn't there.
   if (!SiteEdited() || m_SiteFault.empty()) return;
@@ -100,7 +100,7 @@ void clsDynamicPressure::ReadFromSaveFile() {
 }
 
 void clsDynamicPressure::WriteToSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Write);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, DynamicPressureSection, CaseSection::Way::Write);
   Describe(section, *this, [this] { RefreshWindComponent(); });
 }
 

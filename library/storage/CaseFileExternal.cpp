@@ -9,7 +9,7 @@ namespace orve {
 
 namespace {
 
-constexpr const char* Section = "ExternalCoefficients";
+constexpr const char* ExternalSection = "ExternalCoefficients";
 
 using E = clsExternalCoefficients;
 using ZoneGet = float (E::*)(BuildingAreas, Faces, std::int16_t);
@@ -50,12 +50,12 @@ void Describe(CaseSection& section, E& external) {
 }  // namespace
 
 void clsExternalCoefficients::ReadFromSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Read);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, ExternalSection, CaseSection::Way::Read);
   Describe(section, *this);
 }
 
 void clsExternalCoefficients::WriteToSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Write);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, ExternalSection, CaseSection::Way::Write);
   Describe(section, *this);
 }
 

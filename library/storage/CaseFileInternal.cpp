@@ -9,7 +9,7 @@ namespace orve {
 
 namespace {
 
-constexpr const char* Section = "InternalCoefficients";
+constexpr const char* InternalSection = "InternalCoefficients";
 
 using I = clsInternalCoefficients;
 
@@ -55,12 +55,12 @@ void Describe(CaseSection& section, I& internal) {
 }  // namespace
 
 void clsInternalCoefficients::ReadFromSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Read);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, InternalSection, CaseSection::Way::Read);
   Describe(section, *this);
 }
 
 void clsInternalCoefficients::WriteToSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Write);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, InternalSection, CaseSection::Way::Write);
   Describe(section, *this);
 }
 

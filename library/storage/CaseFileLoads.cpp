@@ -9,7 +9,7 @@ namespace orve {
 
 namespace {
 
-constexpr const char* Section = "OverallAppliedLoads";
+constexpr const char* LoadsSection = "OverallAppliedLoads";
 
 using L = clsOverallAppliedLoads;
 
@@ -47,12 +47,12 @@ void Describe(CaseSection& section, L& loads) {
 }  // namespace
 
 void clsOverallAppliedLoads::ReadFromSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Read);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, LoadsSection, CaseSection::Way::Read);
   Describe(section, *this);
 }
 
 void clsOverallAppliedLoads::WriteToSaveFile() {
-  CaseSection section(RequireCurrentCase().m_iclsSaveFile, Section, CaseSection::Way::Write);
+  CaseSection section(RequireCurrentCase().m_iclsSaveFile, LoadsSection, CaseSection::Way::Write);
   Describe(section, *this);
 }
 

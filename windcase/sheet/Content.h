@@ -14,6 +14,8 @@
 namespace orve::sheet {
 
 inline constexpr std::array<Faces, 4> kFaces = {Faces::Face_1, Faces::Face_2, Faces::Face_3, Faces::Face_4};
+/// Printed where a value can't be had.
+inline constexpr const char* kRefused = "\u2013";
 
 /// A text with the warnings that touch it.
 struct Marked {

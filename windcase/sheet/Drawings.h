@@ -15,6 +15,9 @@ struct Drawing {
   std::string caption;
 };
 
+/// True for a length that can be drawn: finite and above 0.
+bool IsLength(double value);
+
 /// Fill of a load on drawings: five tones from white to dark by its share of the greatest one.
 const char* ToneOf(double load, double greatest);
 /// What the tones mean.

@@ -10,16 +10,12 @@ namespace orve::sheet {
 
 namespace {
 
-constexpr double kCanvas = 672;
+constexpr double kElevationCanvas = 672;
 constexpr double kPanel = 326;
 constexpr double kWidest = 300;
-constexpr double kTallest = 78;
+constexpr double kElevationTallest = 78;
 constexpr double kTitle = 16;
-constexpr double kFoot = 18;
-
-bool IsLength(double value) {
-  return std::isfinite(value) && value > 0;
-}
+constexpr double kElevationFoot = 18;
 
 bool RunsAlongFace2(Faces face) {
   return face == Faces::Face_2 || face == Faces::Face_4;
@@ -77,10 +73,10 @@ Drawing DrawWall(const BuildingForm& building, const FaceZones& zones, double gr
   const Polygon wall = WallOutline(building, zones.face, length);
   const double tall = BoxOf(wall).top;
   if (!IsLength(tall)) return {};
-  const double scale = std::min(kWidest / length, kTallest / tall);
+  const double scale = std::min(kWidest / length, kElevationTallest / tall);
   const double row = tall * scale + kTitle + 6;
   const std::string title = "Wall of " + NameOf(zones.face) + " from outside";
-  Svg svg(kCanvas, 2 * row + kFoot, title, DescribeZones(zones));
+  Svg svg(kElevationCanvas, 2 * row + kElevationFoot, title, DescribeZones(zones));
   const Faces left = LeftOf(zones.face);
   const Faces right = RightOf(zones.face);
   const Panel panels[] = {{WallWind::Onto, zones.face},
@@ -89,7 +85,7 @@ Drawing DrawWall(const BuildingForm& building, const FaceZones& zones, double gr
                           {WallWind::FromRight, right}};
   const ZoneSizes sizes = SizesOf(zones);
   for (std::size_t i = 0; i < 4; ++i) {
-    const double x = i % 2 == 0 ? 0 : kCanvas - kPanel;
+    const double x = i % 2 == 0 ? 0 : kElevationCanvas - kPanel;
     const double y = i < 2 ? 0 : row;
     const View view{scale, {x + (kPanel - length * scale) / 2, y + kTitle + tall * scale}};
     svg.Text({x + kPanel / 2, y + 10}, "Wind on " + NameOf(panels[i].from), {9, "middle", true});
@@ -99,7 +95,7 @@ Drawing DrawWall(const BuildingForm& building, const FaceZones& zones, double gr
     if (panels[i].wind == WallWind::FromLeft) svg.Arrow({x - 0, arrowY}, {x + 9, arrowY});
     if (panels[i].wind == WallWind::FromRight) svg.Arrow({x + kPanel, arrowY}, {x + kPanel - 9, arrowY});
   }
-  DrawScaleBar(svg, {10, 2 * row + kFoot - 8}, scale);
+  DrawScaleBar(svg, {10, 2 * row + kElevationFoot - 8}, scale);
   return {svg.Take(), title + ", " + LengthText(length) + " long: " + NameOf(left) +
                           " lies at the left end, " + NameOf(right) + " at the right"};
 }
@@ -108,10 +104,10 @@ Drawing DrawParapet(const BuildingForm& building, const FaceZones& zones, double
   const double length = PlanLength(building, zones.face);
   const double height = building.parapetHeight;
   if (!IsLength(length) || !IsLength(height) || zones.rows.empty()) return {};
-  const double scale = std::min((kCanvas - 20) / length, kTallest / height);
+  const double scale = std::min((kElevationCanvas - 20) / length, kElevationTallest / height);
   const double row = height * scale + kTitle + 26;
   const std::string title = "Parapet of " + NameOf(zones.face);
-  Svg svg(kCanvas, 2 * row + kFoot, title, DescribeZones(zones));
+  Svg svg(kElevationCanvas, 2 * row + kElevationFoot, title, DescribeZones(zones));
   const ZoneSizes sizes = SizesOf(zones);
   for (const bool windward : {true, false}) {
     const double y = windward ? 0 : row;
@@ -128,7 +124,7 @@ Drawing DrawParapet(const BuildingForm& building, const FaceZones& zones, double
       if (box.Width() > 30) svg.Text({middle, box.top + 20}, load, {8});
     }
   }
-  DrawScaleBar(svg, {10, 2 * row + kFoot - 8}, scale);
+  DrawScaleBar(svg, {10, 2 * row + kElevationFoot - 8}, scale);
   return {svg.Take(), title + ", " + LengthText(length) +
                           " long, zones from a free end or corner: the wind can come "
                           "from either end"};

@@ -9,7 +9,6 @@ namespace orve::sheet {
 namespace {
 
 constexpr int kSectors = 12;
-constexpr const char* kRefused = "\u2013";
 
 using ReadSite = float (clsDynamicPressure::*)(WindSectors);
 struct SiteColumn {

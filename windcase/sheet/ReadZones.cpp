@@ -15,7 +15,6 @@ using explain::Quantity;
 using explain::QuantityPtr;
 
 constexpr int kPlaces = 3;
-constexpr const char* kRefused = "\u2013";
 
 QuantityPtr Child(const Quantity& quantity, const std::string& symbol) {
   for (const QuantityPtr& child : quantity.children)

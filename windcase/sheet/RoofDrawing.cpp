@@ -9,14 +9,10 @@ namespace orve::sheet {
 
 namespace {
 
-constexpr double kCanvas = 332;
-constexpr double kMargin = 31;
-constexpr double kFoot = 16;
-constexpr double kTallest = 200;
-
-bool IsLength(double value) {
-  return std::isfinite(value) && value > 0;
-}
+constexpr double kPlanCanvas = 332;
+constexpr double kPlanMargin = 31;
+constexpr double kPlanFoot = 16;
+constexpr double kPlanTallest = 200;
 
 // Middle of an edge of the plan, and the way out of it.
 struct Edge {
@@ -47,10 +43,10 @@ class RoofPlan {
   RoofPlan(const BuildingForm& building, const FaceZones& zones)
       : m_building(building),
         m_zones(zones),
-        m_scale(std::min((kCanvas - 2 * kMargin) / building.length, kTallest / building.width)),
-        m_height(building.width * m_scale + 2 * kMargin + kFoot),
-        m_view{m_scale, {(kCanvas - building.length * m_scale) / 2, m_height - kMargin - kFoot}},
-        m_svg(kCanvas, m_height, "Roof, wind on " + std::string(PublishedText(zones.face)),
+        m_scale(std::min((kPlanCanvas - 2 * kPlanMargin) / building.length, kPlanTallest / building.width)),
+        m_height(building.width * m_scale + 2 * kPlanMargin + kPlanFoot),
+        m_view{m_scale, {(kPlanCanvas - building.length * m_scale) / 2, m_height - kPlanMargin - kPlanFoot}},
+        m_svg(kPlanCanvas, m_height, "Roof, wind on " + std::string(PublishedText(zones.face)),
               DescribeZones(zones)) {}
 
   std::string Draw(double greatest) {
@@ -64,7 +60,7 @@ class RoofPlan {
     DrawCantilevers();
     for (const Faces face : kFaces) DrawFace(face);
     DrawNorth();
-    DrawScaleBar(m_svg, {kMargin / 2, m_height - 8}, m_scale);
+    DrawScaleBar(m_svg, {kPlanMargin / 2, m_height - 8}, m_scale);
     return m_svg.Take();
   }
 
@@ -100,7 +96,7 @@ class RoofPlan {
     if (!m_building.orientationKnown) return;
     const double turn = (m_building.orientation + 180) * 3.14159265358979323846 / 180;
     const Point north{std::cos(turn), std::sin(turn)};
-    const Point centre{kCanvas - 24, m_height - 22};
+    const Point centre{kPlanCanvas - 24, m_height - 22};
     constexpr double half = 11;
     m_svg.Arrow({centre.x - north.x * half, centre.y + north.y * half},
                 {centre.x + north.x * half, centre.y - north.y * half});

@@ -5,10 +5,10 @@ namespace orve::sheet {
 
 namespace {
 
-constexpr int kFaces = 4;
+constexpr int kFaceCount = 4;
 
 Faces Turned(Faces face, int steps) {
-  return static_cast<Faces>((static_cast<int>(face) + steps) % kFaces);
+  return static_cast<Faces>((static_cast<int>(face) + steps) % kFaceCount);
 }
 
 bool Has(const ZoneSizes& zones, const std::string& name) {
@@ -24,7 +24,7 @@ Faces LeftOf(Faces face) {
   return Turned(face, 1);
 }
 Faces RightOf(Faces face) {
-  return Turned(face, kFaces - 1);
+  return Turned(face, kFaceCount - 1);
 }
 
 Pieces LayOutWall(const Polygon& wall, Faces face, WallWind wind, const ZoneSizes& zones) {

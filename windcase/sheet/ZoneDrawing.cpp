@@ -80,6 +80,10 @@ void Label(Svg& svg, const Polygon& outline, const ZoneRow& row) {
 
 }  // namespace
 
+bool IsLength(double value) {
+  return std::isfinite(value) && value > 0;
+}
+
 const char* ToneOf(double load, double greatest) {
   return kTones[ToneIndex(load, greatest)];
 }
