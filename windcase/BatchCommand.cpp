@@ -8,6 +8,8 @@
 #include <unistd.h>
 
 #include "Commands.h"
+#include "Files.h"
+#include "PrintableText.h"
 #include "Records.h"
 #include "Settings.h"
 #include "Workers.h"
@@ -42,8 +44,8 @@ std::vector<fs::path> CasesOf(const std::string& folder) {
 /// What one worker process does.
 class CaseWork {
  public:
-  CaseWork(const std::vector<fs::path>& cases, const fs::path& settings, const std::string& results)
-      : m_cases(cases), m_settings(settings), m_results(results) {
+  CaseWork(const std::vector<fs::path>& cases, const fs::path& settings, const Options& options)
+      : m_cases(cases), m_settings(settings), m_options(options) {
     fs::create_directories(settings);
     m_case = std::make_unique<OpenCase>(settings);
   }
@@ -54,7 +56,7 @@ class CaseWork {
       m_case->Open(m_cases[job].string());
       const std::vector<ZoneLoads> loads = ReadLoads(**m_case, {});
       TakeLoads(outcome, loads);
-      if (!m_results.empty()) Store(m_cases[job]);
+      if (!m_options.results.empty()) Store(m_cases[job]);
     } catch (const std::exception& error) {
       outcome.failed = true;
       Put(outcome.fault, error.what());
@@ -87,12 +89,13 @@ class CaseWork {
   void Store(const fs::path& file) {
     const std::vector<InputKey> keys = StoredKeys(*m_case, m_settings);
     const std::string name = file.filename().string() + ".results.json";
-    WriteFile((fs::path(m_results) / name).string(), RecordJson(RecordOf(*m_case, keys)));
+    WriteOutput({(fs::path(m_options.results) / name).string(), file.string(), m_options.force},
+                RecordJson(RecordOf(*m_case, keys)));
   }
 
   const std::vector<fs::path>& m_cases;
   fs::path m_settings;
-  std::string m_results;
+  const Options& m_options;
   std::unique_ptr<OpenCase> m_case;
 };
 
@@ -113,10 +116,11 @@ class Summary {
   }
 
   ExitCode Print(int workers) {
-    if (m_terminal) std::cerr << "\r" << std::string(60, ' ') << "\r" << std::flush;
+    if (m_terminal) std::clog << "\r" << std::string(60, ' ') << "\r" << std::flush;
     const double seconds = std::max(1e-3, Elapsed().count());
     std::sort(m_failures.begin(), m_failures.end());
-    for (const auto& [job, fault] : m_failures) std::cout << "failed: " << Name(job) << ": " << fault << "\n";
+    for (const auto& [job, fault] : m_failures)
+      std::cout << Printable("failed: " + Name(job) + ": " + fault, false) << "\n";
     std::cout << m_done << " cases, " << m_failures.size() << " failed, " << m_zones << " zones\n";
     if (m_pressure.pressure > 0)
       std::cout << "greatest pressure " << orve::FormatSigned(m_pressure.pressure)
@@ -142,7 +146,7 @@ class Summary {
     constexpr std::size_t width = 30;
     if (!m_terminal) return;
     const std::size_t filled = width * m_done / m_cases.size();
-    std::cerr << "\r[" << std::string(filled, '#') << std::string(width - filled, '.') << "] " << m_done
+    std::clog << "\r[" << std::string(filled, '#') << std::string(width - filled, '.') << "] " << m_done
               << " of " << m_cases.size() << std::flush;
   }
 
@@ -170,8 +174,7 @@ ExitCode RunBatch(const Options& options) {
   const PrivateFolder folder;
   Summary summary(cases);
   const auto setUp = [&](int worker) -> Work {
-    const auto work =
-        std::make_shared<CaseWork>(cases, folder.Path() / std::to_string(worker), options.results);
+    const auto work = std::make_shared<CaseWork>(cases, folder.Path() / std::to_string(worker), options);
     return [work](std::uint32_t job) { return work->Do(job); };
   };
   RunJobs(static_cast<std::uint32_t>(cases.size()), workers, setUp,

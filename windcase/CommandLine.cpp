@@ -57,6 +57,9 @@ class CommandLine {
     return added;
   }
   void AddJson(CLI::App* command) { command->add_flag("--json", m_options.json, "Print JSON"); }
+  void AddForce(CLI::App* command) {
+    command->add_flag("--force", m_options.force, "Write over an existing file");
+  }
   void AddAssignments(CLI::App* command, bool required) {
     command
         ->add_option("KEY=VALUE", m_options.assignments,
@@ -68,8 +71,10 @@ class CommandLine {
   void AddEditing() {
     CLI::App* create = AddWithFile(Command::New, "new", "Make a case");
     AddAssignments(create, false);
-    create->add_flag("--force", m_options.force, "Write over an existing file");
+    AddForce(create);
     AddAssignments(AddWithFile(Command::Set, "set", "Change inputs of a case"), true);
+    AddWithFile(Command::Repair, "repair",
+                "Write a damaged case file anew as its lines are meant; the old is kept");
     CLI::App* show = AddWithFile(Command::Show, "show", "Show the inputs of a case");
     show->add_flag("--changed", m_options.changed, "Only what differs from a new case");
     AddJson(show);
@@ -96,6 +101,7 @@ class CommandLine {
     CLI::App* check =
         AddWithFile(Command::Check, "check", "Work a case out again and compare with its stored results");
     check->add_flag("--store", m_options.store, "Store the results");
+    AddForce(check);
     check->add_option("--results", m_options.results,
                       "File of the stored results; default: FILE with .results.json added");
     check->add_option("--sheet", m_options.sheet, "Compare with this calculation sheet instead");
@@ -104,6 +110,7 @@ class CommandLine {
     batch->add_option("--jobs", m_options.jobs, "Worker processes; default: one per core")
         ->check(CLI::Range(1, 256));
     batch->add_option("--results", m_options.results, "Folder to store each case's results in");
+    AddForce(batch);
   }
 
   void AddSheet() {
@@ -115,7 +122,7 @@ class CommandLine {
     sheet->add_option("--checker", m_options.checker);
     sheet->add_option("--revision", m_options.revision);
     sheet->add_option("--date", m_options.date, "Default: the day of the case's last save");
-    sheet->add_flag("--force", m_options.force, "Write over an existing file");
+    AddForce(sheet);
   }
 
   Options& m_options;

@@ -9,6 +9,7 @@ namespace windcase {
 
 ExitCode RunNew(const Options& options);
 ExitCode RunSet(const Options& options);
+ExitCode RunRepair(const Options& options);
 ExitCode RunShow(const Options& options);
 ExitCode RunLoads(const Options& options);
 ExitCode RunExplain(const Options& options);

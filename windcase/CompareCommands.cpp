@@ -1,11 +1,11 @@
 // Two cases against each other, and one against its stored results.
 #include <algorithm>
-#include <fstream>
+#include <filesystem>
 #include <iostream>
-#include <iterator>
 #include <orve3_bs6399_2.h>
 
 #include "Commands.h"
+#include "Files.h"
 #include "Records.h"
 #include "Settings.h"
 
@@ -26,11 +26,10 @@ void AddMissing(std::vector<InputKey>& keys, const std::vector<InputKey>& others
 }
 
 CaseRecord StoredRecord(const std::string& path, const std::string& file) {
-  std::ifstream stored(path, std::ios::binary);
-  if (!stored)
+  if (!std::filesystem::exists(path))
     throw Failure(ExitCode::File, "There are no stored results " + path + "; \"windcase check " + file +
                                       " --store\" makes them");
-  return RecordOf(std::string(std::istreambuf_iterator<char>(stored), {}), path);
+  return RecordOf(ReadPlainFile(path), path);
 }
 
 }  // namespace
@@ -55,7 +54,7 @@ ExitCode RunCheck(const Options& options) {
   const std::vector<InputKey> keys = KeysOf(windCase, options.file, folder);
   const CaseRecord now = RecordOf(windCase, keys);
   if (options.store) {
-    WriteFile(path, RecordJson(now));
+    WriteOutput({path, ResolvedName(options.file), options.force}, RecordJson(now));
     std::cout << path << " holds the results of " << now.loads.size() << " zones\n";
     return ExitCode::Done;
   }

@@ -1,12 +1,16 @@
 // Making, changing and showing a case.
 #include <Explain.h>
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <iostream>
 #include <orve3_bs6399_2.h>
 
+#include "CaseLock.h"
 #include "Commands.h"
+#include "Files.h"
 #include "Inputs.h"
+#include "PrintableText.h"
 #include "Records.h"
 #include "Settings.h"
 #include "TextTable.h"
@@ -25,10 +29,9 @@ std::string AssignAll(OpenCase& windCase, const std::vector<std::string>& assign
     const std::string before = inputs.Read(found.front());
     for (const Input& input : found) inputs.Assign(input, assignment.value, newCase);
     const std::string after = inputs.Read(found.front());
-    told += assignment.key.Text(true) + ": ";
-    told +=
+    const std::string change =
         found.size() == 1 ? before + " -> " + after : std::to_string(found.size()) + " values, now " + after;
-    told += "\n";
+    told += Printable(assignment.key.Text(true) + ": " + change, false) + "\n";
   }
   return told;
 }
@@ -53,21 +56,26 @@ void WarnOfCase() {
 ExitCode RunNew(const Options& options) {
   std::filesystem::path path = options.file;
   if (path.extension().empty()) path += ".wlc";
-  if (!options.force && std::filesystem::exists(path))
+  const std::string file = ResolvedName(path.string());
+  if (std::filesystem::path(file).filename() != path.filename()) path = file;
+  const CaseLock lock(file);
+  if (!options.force && std::filesystem::exists(file))
     throw Failure(ExitCode::File, path.string() + " is there already; --force writes over it");
   OpenCase windCase(UserSettingsFolder());
   const std::string told = AssignAll(windCase, DesignFirst(options.assignments), true);
-  windCase.SaveAs(path.string());
+  windCase.SaveAs(file);
   std::cout << told << path.string() << " is made\n";
   WarnOfCase();
   return ExitCode::Done;
 }
 
+// The lock stands from the opening to the end of the save, so that of two changes at once neither is lost.
 ExitCode RunSet(const Options& options) {
+  const CaseLock lock(ResolvedName(options.file));
   OpenCase windCase(UserSettingsFolder());
   windCase.Open(options.file);
   const std::string told = AssignAll(windCase, options.assignments, false);
-  windCase->Save();
+  windCase.Save();
   std::cout << told;
   WarnOfCase();
   return ExitCode::Done;
@@ -76,7 +84,7 @@ ExitCode RunSet(const Options& options) {
 ExitCode RunShow(const Options& options) {
   const PrivateFolder folder;
   OpenCase windCase(folder.Path());
-  windCase.Open(options.file);
+  windCase.Open(options.file, DamagedText::Warn);
   const std::vector<InputKey> keys = StoredKeys(windCase, folder.Path());
   std::vector<InputText> values = ReadInputs(windCase, keys);
   const Inputs inputs(*windCase);

@@ -201,6 +201,20 @@ std::vector<Input> Inputs::Find(const InputKey& key) const {
   return inputs;
 }
 
+std::optional<InputKey> Inputs::StoredKey(const std::string& section, std::string_view text) const {
+  try {
+    InputKey key = ParseKey(text);
+    key.object = section;
+    for (const Owner& owner : Owners()) {
+      if (!SameName(owner.name, section)) continue;
+      const MemberDescription* member = owner.object.type->Find(key.name);
+      if (member != nullptr && member->arguments.size() == key.indices.size()) return key;
+    }
+  } catch (const Failure&) {  // not even the form of a key
+  }
+  return std::nullopt;
+}
+
 std::string Inputs::Read(const Input& input) const {
   const Value value = Invoke(input.object, *input.member, input.indices);
   if (input.member->type.kind != Kind::Enumeration) return TextOf(value);

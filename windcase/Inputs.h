@@ -1,6 +1,7 @@
 // The inputs of a case by their own names, through the description of the object model.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,6 +51,10 @@ class Inputs {
   /// The inputs that a key names; more than one if an index is "*". Failure: Usage for an unknown name, one
   /// that several objects have and the key doesn't say which, and indices that don't fit.
   std::vector<Input> Find(const InputKey& key) const;
+
+  /// The key behind a line of a case file; nothing for one that isn't an input here, as one of a newer
+  /// program. `section` is empty for the root object's.
+  std::optional<InputKey> StoredKey(const std::string& section, std::string_view text) const;
 
   /// The value as text, enumerations by their published text, and what kind of text it is. Errors: those of
   /// the read.

@@ -1,6 +1,7 @@
 #include "JsonText.h"
 
 #include <cmath>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 #include "Failure.h"
@@ -13,9 +14,13 @@ namespace {
 using Json = nlohmann::ordered_json;
 using orve::explain::Quantity;
 
-// The number that the value's own decimal text stands for, so that a 32-bit 0.31 is written as 0.31.
+// A record is flat; a file that isn't one may be nested so deep that no program can copy it.
+constexpr int kDeepestRecord = 3;
+
+// The number that the value's own decimal text stands for, so that a 32-bit 0.31 is written as 0.31; "inf",
+// "-inf" or "nan" for what JSON has no number for.
 Json NumberOf(float value) {
-  if (!std::isfinite(value)) return nullptr;
+  if (!std::isfinite(value)) return orve::ShortestText(value);
   return orve::TextToDouble(orve::ShortestText(value));
 }
 
@@ -33,20 +38,46 @@ Json LoadOf(const ZoneLoads& zone) {
   return json;
 }
 
+const std::string& StringOf(const Json& json) {
+  return json.get_ref<const std::string&>();
+}
+
+float FloatOf(const Json& json) {
+  using Limits = std::numeric_limits<float>;
+  if (json.is_number()) {
+    const double value = json.get<double>();
+    return std::fabs(value) > double(Limits::max())
+               ? std::copysign(Limits::infinity(), float(value > 0 ? 1 : -1))
+               : static_cast<float>(value);
+  }
+  for (const float value : {Limits::infinity(), -Limits::infinity()})
+    if (StringOf(json) == orve::ShortestText(value)) return value;
+  return Limits::quiet_NaN();
+}
+
 ZoneLoads ZoneOf(const Json& json) {
   ZoneLoads zone;
-  zone.area = json.at("area");
-  zone.face = json.at("face");
-  zone.zone = json.at("zone");
-  zone.dimensions = json.at("dimensions");
-  zone.fault = json.value("fault", "");
+  zone.area = StringOf(json.at("area"));
+  zone.face = StringOf(json.at("face"));
+  zone.zone = StringOf(json.at("zone"));
+  zone.dimensions = StringOf(json.at("dimensions"));
+  if (const auto fault = json.find("fault"); fault != json.end()) zone.fault = StringOf(*fault);
   if (!zone.fault.empty()) return zone;
-  zone.external = json.at("external");
-  zone.internal = json.at("internal");
-  zone.overall = json.at("overall");
-  zone.pressure = json.at("pressure");
-  zone.suction = json.at("suction");
+  zone.external = StringOf(json.at("external"));
+  zone.internal = StringOf(json.at("internal"));
+  zone.overall = StringOf(json.at("overall"));
+  zone.pressure = FloatOf(json.at("pressure"));
+  zone.suction = FloatOf(json.at("suction"));
   return zone;
+}
+
+Json ParseFlat(const std::string& text, const std::string& name) {
+  const auto refuseDepth = [&](int depth, Json::parse_event_t, const Json&) {
+    if (depth > kDeepestRecord)
+      throw Failure(ExitCode::File, name + " isn't a file of stored results: it is nested too deep");
+    return true;
+  };
+  return Json::parse(text, refuseDepth);
 }
 
 Json LoadsOf(const std::vector<ZoneLoads>& loads) {
@@ -141,11 +172,13 @@ std::string RecordJson(const CaseRecord& record) {
 
 CaseRecord RecordOf(const std::string& text, const std::string& name) {
   try {
-    const Json json = Json::parse(text);
+    const Json json = ParseFlat(text, name);
     CaseRecord record;
-    record.version = json.at("version");
-    for (const auto& [key, value] : json.at("inputs").items()) record.inputs.emplace_back(key, value);
-    for (const Json& zone : json.at("loads")) record.loads.push_back(ZoneOf(zone));
+    record.version = StringOf(json.at("version"));
+    for (const auto& [key, value] : json.at("inputs").get_ref<const Json::object_t&>())
+      record.inputs.emplace_back(key, StringOf(value));
+    for (const Json& zone : json.at("loads").get_ref<const Json::array_t&>())
+      record.loads.push_back(ZoneOf(zone));
     return record;
   } catch (const Json::exception& error) {
     throw Failure(ExitCode::File, name + " isn't a file of stored results: " + error.what());

@@ -11,6 +11,9 @@ class clsCurrentCase;
 
 namespace windcase {
 
+/// What becomes of a file in which the library's reading loses lines.
+enum class DamagedText { Refuse, Warn };
+
 /// A root object on the built-in engines, with its settings in a folder that must outlive it.
 class OpenCase {
  public:
@@ -19,8 +22,12 @@ class OpenCase {
   OpenCase(const OpenCase&) = delete;
   OpenCase& operator=(const OpenCase&) = delete;
 
-  /// Opens a case. Failure: File if it isn't there or isn't a case.
-  void Open(const std::string& path);
+  /// Opens a case. Failure: File if it isn't there, isn't a case or, unless `damaged` says otherwise, holds
+  /// lines that would be lost.
+  void Open(const std::string& path, DamagedText damaged = DamagedText::Refuse);
+  /// Saves the case in its file. Errors: those of writing. Failure: File if the file isn't the one that was
+  /// opened any more.
+  void Save();
   /// Saves the case under a path, which then is its location. Errors: those of writing.
   void SaveAs(const std::string& path);
 
@@ -31,7 +38,7 @@ class OpenCase {
   std::shared_ptr<orve::clsCurrentCase> m_case;
 };
 
-/// The path in full, as the library keeps it.
-std::string FullPath(const std::string& path);
+/// The bytes of a case file. Failure: File for what isn't a plain file of at most 16 MB or isn't a case.
+std::string ReadCaseFile(const std::string& path);
 
 }  // namespace windcase

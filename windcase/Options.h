@@ -6,7 +6,7 @@
 
 namespace windcase {
 
-enum class Command { New, Show, Set, Loads, Explain, Compare, Recent, Check, Batch, Sheet };
+enum class Command { New, Repair, Show, Set, Loads, Explain, Compare, Recent, Check, Batch, Sheet };
 
 struct Options {
   Command command = Command::Show;

@@ -1,6 +1,6 @@
 #include "Records.h"
 
-#include <fstream>
+#include <cmath>
 #include <map>
 #include <orve3_bs6399_2.h>
 #include <ostream>
@@ -37,7 +37,13 @@ std::string Name(const ZoneLoads& zone) {
   return zone.area + ", " + zone.face + ", " + zone.zone;
 }
 
+// Infinite loads stand for themselves.
+bool Same(float a, float b) {
+  return !(a < b || a > b) && std::isnan(a) == std::isnan(b);
+}
+
 std::string Moved(float from, float to) {
+  if (Same(from, to)) return orve::FormatSigned(0.0);
   return orve::FormatSigned(double(to) - double(from));
 }
 
@@ -47,7 +53,7 @@ std::string Shown(const ZoneLoads& zone) {
 
 bool Differ(const ZoneLoads& a, const ZoneLoads& b) {
   return Shown(a) != Shown(b) || a.external != b.external || a.internal != b.internal ||
-         a.dimensions != b.dimensions || a.pressure != b.pressure || a.suction != b.suction;
+         a.dimensions != b.dimensions || !Same(a.pressure, b.pressure) || !Same(a.suction, b.suction);
 }
 
 bool PrintLoads(std::ostream& out, const CaseRecord& a, const CaseRecord& b) {
@@ -102,13 +108,6 @@ bool PrintDifferences(std::ostream& out, const CaseRecord& a, const CaseRecord& 
   out << "\n";
   const bool loads = PrintLoads(out, a, b);
   return inputs || loads;
-}
-
-void WriteFile(const std::string& path, const std::string& text) {
-  std::ofstream file(path, std::ios::binary);
-  file << text;
-  file.close();
-  if (!file) throw Failure(ExitCode::File, "Can't write " + path);
 }
 
 }  // namespace windcase

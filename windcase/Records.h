@@ -17,7 +17,4 @@ CaseRecord RecordOf(OpenCase& windCase, const std::vector<InputKey>& keys);
 /// Prints which inputs differ and which loads moved, by how much; true if anything differs.
 bool PrintDifferences(std::ostream& out, const CaseRecord& a, const CaseRecord& b);
 
-/// Writes a text whole. Failure: File.
-void WriteFile(const std::string& path, const std::string& text);
-
 }  // namespace windcase

@@ -18,7 +18,7 @@ fs::path FromEnvironment(const char* name) {
 
 }  // namespace
 
-// A relative $XDG_CONFIG_HOME counts as none.
+// What the list of recent cases says is the user's own business. A relative $XDG_CONFIG_HOME counts as none.
 fs::path UserSettingsFolder() {
   fs::path base = FromEnvironment("XDG_CONFIG_HOME");
   if (!base.is_absolute()) base = FromEnvironment("HOME") / ".config";
@@ -26,15 +26,20 @@ fs::path UserSettingsFolder() {
     throw Failure(ExitCode::File, "No folder for the settings: set HOME or XDG_CONFIG_HOME");
   const fs::path folder = base / "windcase";
   std::error_code error;
-  fs::create_directories(folder, error);
+  const bool made = fs::create_directories(folder, error);
+  if (made) fs::permissions(folder, fs::perms::owner_all, error);
   if (error) throw Failure(ExitCode::File, "Can't make the settings folder " + folder.string());
   return folder;
 }
 
 PrivateFolder::PrivateFolder() {
-  std::string pattern = (fs::temp_directory_path() / "windcase-XXXXXX").string();
+  std::error_code error;
+  const fs::path base = fs::temp_directory_path(error);
+  if (error)
+    throw Failure(ExitCode::File, "The folder for temporary files isn't there: set TMPDIR to one that is");
+  std::string pattern = (base / "windcase-XXXXXX").string();
   if (mkdtemp(pattern.data()) == nullptr)
-    throw Failure(ExitCode::File, "Can't make a temporary folder in " + fs::temp_directory_path().string());
+    throw Failure(ExitCode::File, "Can't make a temporary folder in " + base.string());
   m_path = pattern;
 }
 

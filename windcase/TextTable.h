@@ -7,11 +7,13 @@
 
 namespace windcase {
 
-/// Rows of texts in columns as wide as their widest text; the first row is the head.
+/// Rows of texts in columns as wide as their widest text, but for texts so long that they stick out; the
+/// first row is the head.
 class TextTable {
  public:
   explicit TextTable(std::vector<std::string> head) { m_rows.push_back(std::move(head)); }
-  void Add(std::vector<std::string> row) { m_rows.push_back(std::move(row)); }
+  /// Control characters are shown, not sent.
+  void Add(std::vector<std::string> row);
   bool Empty() const { return m_rows.size() == 1; }
   void Print(std::ostream& out) const;
 

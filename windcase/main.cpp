@@ -1,10 +1,12 @@
 // The command-line host: makes, changes, shows and compares wind load cases, works out their loads and tells
 // why they are what they are.
+#include <filesystem>
 #include <iostream>
 #include <orve3_bs6399_2.h>
 
 #include "CommandLine.h"
 #include "Commands.h"
+#include "PrintableText.h"
 
 namespace windcase {
 
@@ -14,6 +16,8 @@ ExitCode Run(const Options& options) {
   switch (options.command) {
     case Command::New:
       return RunNew(options);
+    case Command::Repair:
+      return RunRepair(options);
     case Command::Show:
       return RunShow(options);
     case Command::Set:
@@ -63,6 +67,8 @@ ExitCode RunGuarded(const Options& options) {
     return Tell(failure.Code(), failure.what());
   } catch (const orve::Error& error) {
     return Tell(CodeOf(error), std::string(error.what()) + " (error " + std::to_string(error.Number()) + ")");
+  } catch (const std::filesystem::filesystem_error& error) {
+    return Tell(ExitCode::File, error.what());
   } catch (const std::exception& error) {
     return Tell(ExitCode::Internal, error.what());
   }
@@ -73,6 +79,7 @@ ExitCode RunGuarded(const Options& options) {
 }  // namespace windcase
 
 int main(int argc, char** argv) {
+  const windcase::PrintableStreams printable;
   windcase::Options options;
   if (const auto code = windcase::ParseCommandLine(argc, argv, options)) return *code;
   return static_cast<int>(windcase::RunGuarded(options));

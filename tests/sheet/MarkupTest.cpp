@@ -29,9 +29,11 @@ TEST(Markup, EscapesWhatMarkupAndStylesWouldTakeAsTheirs) {
                         {"cut \xC3", "cut \uFFFD"},
                         {"\xC0\xAF \xED\xA0\x80 \xF5", "\uFFFD\uFFFD \uFFFD\uFFFD\uFFFD \uFFFD"}};
   for (const Case& one : cases) EXPECT_EQ(Escaped(one.text), one.escaped);
-  EXPECT_EQ(StyleString("A 1\u00B2</style>\"\n"), "\"A 1\u00B2\\3c \\2f style\\3e \\22 \\20 \"");
-  for (const std::string text : {"", "Mill & Sons <\"A\">", "it's &amp; not"})
-    EXPECT_EQ(MetaContent("<head>" + MetaTag("project", text) + "</head>", "project"), text);
+  EXPECT_EQ(StyleString("A 1\u00B2</style>\"\n"), "\"A 1\u00B2\\3c \\2f style\\3e \\22  \"");
+  for (const std::string text : {"", "Mill & Sons <\"A\">", "it's &amp; not", "a\tb\n", "caf\xE9"})
+    EXPECT_EQ(MetaContent("<head>" + MetaTag("project", PlainText(text)) + "</head>", "project"),
+              PlainText(text));
+  EXPECT_EQ(PlainText("caf\xE9\tm\u00B2"), "caf\u00E9 m\u00B2");
   EXPECT_EQ(MetaContent(MetaTag("author", "x"), "project"), "");
 }
 

@@ -64,7 +64,7 @@ std::string CoverPart(const Content& content, const SheetOptions& options) {
   std::string markup =
       "<p class=\"k\">Calculation sheet</p><h1>Wind loads to BS 6399-2</h1>\n<dl class=\"f\">";
   markup += Field("Project", options.project, "wide") + Field("Case", content.description, "wide") +
-            Field("Date", Or(options.date, content.modified)) + Field("Revision", options.revision) +
+            Field("Date", options.date) + Field("Revision", options.revision) +
             Field("Program", "ORVE BS6399-2 " + content.version) +
             Field("Digest of inputs and results (SHA-256)", Grouped(content.digest), "wide mono") + "</dl>\n";
   markup +=

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 
+#include "common/TextEncoding.h"
+
 namespace orve::sheet {
 
 namespace {
@@ -25,6 +27,10 @@ std::size_t CharacterLength(std::string_view text) {
   const bool overlong = (first == 0xE0 && second < 0xA0) || (first == 0xF0 && second < 0x90);
   const bool outside = (first == 0xED && second >= 0xA0) || (first == 0xF4 && second >= 0x90);
   return overlong || outside ? 0 : length;
+}
+
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
 struct Entity {
@@ -62,6 +68,13 @@ std::string MetaHead(std::string_view name) {
 
 }  // namespace
 
+std::string PlainText(std::string_view text) {
+  std::string plain = ToUtf8(text);
+  for (char& c : plain)
+    if (IsControl(c)) c = ' ';
+  return plain;
+}
+
 std::string Escaped(std::string_view text) {
   std::string result;
   result.reserve(text.size());
@@ -70,7 +83,7 @@ std::string Escaped(std::string_view text) {
     const char first = text.front();
     if (length == 0)
       result += kReplacement;
-    else if (length == 1 && (static_cast<unsigned char>(first) < ' ' || first == '\x7F'))
+    else if (length == 1 && IsControl(first))
       result += ' ';
     else if (const std::string_view entity = EntityOf(first); !entity.empty())
       result += entity;
@@ -85,14 +98,14 @@ std::string Escaped(std::string_view text) {
 // string or the style sheet.
 std::string StyleString(std::string_view text) {
   std::string result = "\"";
-  for (const char c : text) {
+  for (const char c : PlainText(text)) {
     const bool plain = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
                        c == ' ' || static_cast<unsigned char>(c) >= 0x80;
     if (plain) {
       result += c;
       continue;
     }
-    const auto code = static_cast<unsigned char>(static_cast<unsigned char>(c) < ' ' ? ' ' : c);
+    const auto code = static_cast<unsigned char>(c);
     result += '\\';
     result += "0123456789abcdef"[code >> 4];
     result += "0123456789abcdef"[code & 15];

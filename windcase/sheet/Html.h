@@ -6,6 +6,9 @@
 
 namespace orve::sheet {
 
+/// The text as the head of a sheet keeps it: UTF-8, other bytes taken as Windows-1252, control characters as
+/// blanks. It comes back unchanged from markup.
+std::string PlainText(std::string_view text);
 /// The text as markup shows it: the characters of the markup escaped, control characters as blanks, bytes
 /// that aren't UTF-8 as U+FFFD.
 std::string Escaped(std::string_view text);

@@ -8,6 +8,11 @@
 
 namespace orve::sheet {
 
+/// The whole sheet. The texts of `options` are plain.
+std::string Render(const Content& content, const SheetOptions& options);
+/// The texts for the head as `PlainText` gives them.
+SheetOptions HeadTexts(const SheetOptions& options);
+
 /// The style sheet, with what stands at the head and the foot of each printed page.
 std::string StyleOf(const Content& content, const SheetOptions& options);
 

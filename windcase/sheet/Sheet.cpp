@@ -54,25 +54,38 @@ std::string MetaTags(const Content& content, const SheetOptions& options) {
          MetaTag("date", options.date);
 }
 
+// What a browser may do with a sheet: show it, with its own style sheet.
+constexpr const char* kPolicy =
+    "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
+    "base-uri 'none'; form-action 'none'\">\n";
+
+}  // namespace
+
 std::string Render(const Content& content, const SheetOptions& options) {
   const std::vector<Part> parts = PartsOf(content);
   const std::string title =
       content.description.empty() ? std::string("Wind loads") : "Wind loads: " + content.description;
-  std::string html =
-      "<!DOCTYPE html>\n<html lang=\"en-GB\">\n<head>\n<meta charset=\"utf-8\">\n"
-      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-      Escaped(title) + "</title>\n" + MetaTags(content, options) + "<style>\n" + StyleOf(content, options) +
-      "</style>\n</head>\n<body>\n<header>\n" + CoverPart(content, options) + "</header>\n<main>\n" +
-      Contents(parts);
+  std::string html = "<!DOCTYPE html>\n<html lang=\"en-GB\">\n<head>\n<meta charset=\"utf-8\">\n" +
+                     std::string(kPolicy) +
+                     "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
+                     Escaped(title) + "</title>\n" + MetaTags(content, options) + "<style>\n" +
+                     StyleOf(content, options) + "</style>\n</head>\n<body>\n<header>\n" +
+                     CoverPart(content, options) + "</header>\n<main>\n" + Contents(parts);
   for (std::size_t i = 0; i < parts.size(); ++i) html += Section(parts[i], i + 1, parts.size());
   return html + "</main>\n</body>\n</html>\n";
 }
 
-}  // namespace
+SheetOptions HeadTexts(const SheetOptions& options) {
+  return {PlainText(options.project), PlainText(options.author), PlainText(options.checker),
+          PlainText(options.revision), PlainText(options.date)};
+}
 
+// The sheet bears its date, so that it stands when the case is saved again on another day.
 std::string MakeSheet(const SheetOptions& options) {
   const Content content = GatherContent();
-  return Render(content, options);
+  SheetOptions heads = HeadTexts(options);
+  if (heads.date.empty()) heads.date = content.modified;
+  return Render(content, heads);
 }
 
 SheetVerdict CheckSheet(std::string_view html) {
@@ -86,7 +99,7 @@ SheetVerdict CheckSheet(std::string_view html) {
   const SheetOptions options{MetaContent(html, "project"), MetaContent(html, "author"),
                              MetaContent(html, "checker"), MetaContent(html, "revision"),
                              MetaContent(html, "date")};
-  verdict.sameBytes = verdict.isSheet && Render(content, options) == html;
+  verdict.sameBytes = verdict.isSheet && Render(content, HeadTexts(options)) == html;
   return verdict;
 }
 

@@ -100,7 +100,7 @@ std::string StyleOf(const Content& content, const SheetOptions& options) {
   Append(head, content.description);
   std::string state;
   if (!options.revision.empty()) Append(state, "Revision " + options.revision);
-  Append(state, options.date.empty() ? content.modified : options.date);
+  Append(state, options.date);
   Append(state, content.version);
   Append(state, "digest " + content.digest.substr(0, digits));
   return kStyle + PageStyle(head, state);
