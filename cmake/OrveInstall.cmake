@@ -14,6 +14,23 @@ if(EXISTS ${ORVE_DATA_SOURCE})
 endif()
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
+# windcase carries two header libraries inside, whose licences ask for their notices beside the binary. The notices
+# are those of the packages that were compiled in; another system names its own files.
+if(ORVE_BUILD_WINDCASE)
+  foreach(carried CLI11:libcli11-dev nlohmann-json:nlohmann-json3-dev)
+    string(REPLACE ":" ";" carried ${carried})
+    list(GET carried 0 name)
+    list(GET carried 1 package)
+    find_file(ORVE_NOTICE_${name} copyright PATHS /usr/share/doc/${package} NO_DEFAULT_PATH
+      DOC "Licence of ${name}, installed with windcase")
+    if(NOT ORVE_NOTICE_${name})
+      message(WARNING "No licence of ${name} is installed with windcase: set ORVE_NOTICE_${name} to its file")
+      continue()
+    endif()
+    install(FILES ${ORVE_NOTICE_${name}} DESTINATION ${CMAKE_INSTALL_DOCDIR}/licences RENAME ${name}.txt)
+  endforeach()
+endif()
+
 install(EXPORT orve3_bs6399_2Targets NAMESPACE orve3_bs6399_2:: DESTINATION ${orve_package_dir})
 configure_package_config_file(cmake/orve3_bs6399_2Config.cmake.in
   ${PROJECT_BINARY_DIR}/orve3_bs6399_2Config.cmake INSTALL_DESTINATION ${orve_package_dir})

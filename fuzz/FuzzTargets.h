@@ -18,6 +18,9 @@ inline void Require(bool holds, const char* rule) {
 void CaseFile(std::string_view input);
 /// A profile file: a stored value is found again.
 void ProfileFile(std::string_view input);
+/// A calculation sheet: eight texts, parted by the byte 0xFF, at the places that a stranger can fill. The markup
+/// stays whole and holds no script and no outside link.
+void Sheet(std::string_view input);
 /// Texts of numbers, dates and descriptions, and what is read back from them.
 void Texts(std::string_view input);
 

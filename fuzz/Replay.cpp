@@ -18,6 +18,7 @@ struct Target {
 };
 constexpr Target Targets[] = {{"case_file", orve::fuzz::CaseFile},
                               {"profile_file", orve::fuzz::ProfileFile},
+                              {"sheet", orve::fuzz::Sheet},
                               {"texts", orve::fuzz::Texts}};
 
 int ReplayFolder(const fs::path& folder, const Target& target) {

@@ -9,7 +9,7 @@ BUILD=build/fuzz
 cmake -S . -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
   -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link -DORVE_SANITIZE=ON -DORVE_BUILD_FUZZ=ON -DORVE_BUILD_TESTS=OFF \
   -DORVE_BUILD_EXAMPLES=OFF -DORVE_BUILD_AUTOMATION=OFF >/dev/null &&
-  cmake --build "$BUILD" --target fuzz_CaseFile fuzz_ProfileFile fuzz_Texts || exit 1
+  cmake --build "$BUILD" --target fuzz_CaseFile fuzz_ProfileFile fuzz_Sheet fuzz_Texts || exit 1
 
 failed=0
 fuzz() {
@@ -28,5 +28,6 @@ fuzz() {
 }
 fuzz fuzz_CaseFile case_file
 fuzz fuzz_ProfileFile profile_file
+fuzz fuzz_Sheet sheet
 fuzz fuzz_Texts texts
 exit $failed

@@ -58,13 +58,13 @@ TEST_F(Batch, GoesOnPastACorruptCase) {
   MakeCases(count - 1);
   std::string corrupt = Content("cases/case 7.wlc");
   corrupt.replace(corrupt.find("Roof_Height="), 14, "Roof_Height=?");
-  Write("cases/corrupt.wlc", corrupt);
+  Write("cases/a corrupt.wlc", corrupt);
   Write("cases/notes.txt", "no case");
   const std::string recent = Content("config/windcase/ORVE_BS6399_2.INI");
 
   const Ending ending = Run({"batch", "cases", "--jobs", "2"});
   EXPECT_EQ(ending.code, 1);
-  EXPECT_EQ(ending.out.find("failed: corrupt.wlc: "), 0U) << ending.out;
+  EXPECT_EQ(ending.out.find("failed: a corrupt.wlc: "), 0U) << ending.out;
   EXPECT_NE(ending.out.find("Roof_Height"), std::string::npos) << ending.out;
   EXPECT_EQ(NumberBefore(ending.out, " cases, 1 failed"), count) << ending.out;
   EXPECT_EQ(NumberBefore(ending.out, " zones"), (count - 1) * 52) << ending.out;

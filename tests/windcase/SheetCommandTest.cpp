@@ -14,15 +14,20 @@ bool Has(const std::string& text, const char* part) {
 
 TEST_F(Program, WritesASheetAndChecksItAgainstItsCase) {
   MakeShed("shed.wlc");
-  Output({"sheet", "shed.wlc", "--project", "Mill <A> & Sons"});
+  std::string earlier = Content("shed.wlc");
+  earlier.replace(earlier.find("Modified=") + 9, 4, "2020");
+  Write("shed.wlc", earlier);
+  Output({"sheet", "shed.wlc", "--project", "Mill <A> & Sons", "--author", "caf\xE9\tB"});
   const std::string sheet = Content("shed.html");
   EXPECT_TRUE(Has(sheet, "Mill &lt;A&gt; &amp; Sons"));
 
   EXPECT_EQ(Run({"sheet", "shed.wlc"}).code, 3);
   EXPECT_EQ(Content("shed.html"), sheet);
-  Output({"sheet", "shed.wlc", "--project", "Mill <A> & Sons", "-o", "again.html"});
+  Output(
+      {"sheet", "shed.wlc", "--project", "Mill <A> & Sons", "--author", "caf\u00E9 B", "-o", "again.html"});
   EXPECT_EQ(Content("again.html"), sheet);
 
+  Output({"set", "shed.wlc", "Roof_Height=7"});  // saved again on another day
   EXPECT_TRUE(Has(Output({"check", "shed.wlc", "--sheet", "shed.html"}), "is the one that this case gives"));
   Write("again.html", sheet + " ");
   const Ending changed = Run({"check", "shed.wlc", "--sheet", "again.html"});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "Content.h"
 #include "Sheet.h"
@@ -12,6 +13,8 @@ namespace orve::sheet {
 std::string Render(const Content& content, const SheetOptions& options);
 /// The texts for the head as `PlainText` gives them.
 SheetOptions HeadTexts(const SheetOptions& options);
+/// Those of a sheet that was made; empty for what isn't one.
+SheetOptions HeadsOf(std::string_view html);
 
 /// The style sheet, with what stands at the head and the foot of each printed page.
 std::string StyleOf(const Content& content, const SheetOptions& options);

@@ -80,6 +80,11 @@ SheetOptions HeadTexts(const SheetOptions& options) {
           PlainText(options.revision), PlainText(options.date)};
 }
 
+SheetOptions HeadsOf(std::string_view html) {
+  return HeadTexts({MetaContent(html, "project"), MetaContent(html, "author"), MetaContent(html, "checker"),
+                    MetaContent(html, "revision"), MetaContent(html, "date")});
+}
+
 // The sheet bears its date, so that it stands when the case is saved again on another day.
 std::string MakeSheet(const SheetOptions& options) {
   const Content content = GatherContent();
@@ -96,10 +101,7 @@ SheetVerdict CheckSheet(std::string_view html) {
   verdict.isSheet = !verdict.printedDigest.empty();
   verdict.sameVersion = MetaContent(html, "version") == content.version;
   verdict.sameDigest = verdict.printedDigest == verdict.digest;
-  const SheetOptions options{MetaContent(html, "project"), MetaContent(html, "author"),
-                             MetaContent(html, "checker"), MetaContent(html, "revision"),
-                             MetaContent(html, "date")};
-  verdict.sameBytes = verdict.isSheet && Render(content, HeadTexts(options)) == html;
+  verdict.sameBytes = verdict.isSheet && Render(content, HeadsOf(html)) == html;
   return verdict;
 }
 
