@@ -7,6 +7,7 @@
 #include "common/Error.h"
 #include "common/LetterCase.h"
 #include "common/Narrow.h"
+#include "common/TextEncoding.h"
 
 namespace orve {
 
@@ -292,7 +293,7 @@ std::optional<double> ParseDate(std::string_view text) {
 
 double TextToDate(std::string_view text) {
   if (const auto date = ParseDate(text)) return *date;
-  throw Error(ErrorNumber::TypeMismatch, "Type mismatch: \"" + std::string(text) + "\" isn't a date");
+  throw Error(ErrorNumber::TypeMismatch, "Type mismatch: \"" + ShortText(text) + "\" isn't a date");
 }
 
 }  // namespace orve

@@ -1,7 +1,11 @@
 #include "common/FileLayer.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
 #include <filesystem>
+#include <random>
 #include <system_error>
 #include <type_traits>
 
@@ -16,6 +20,9 @@ namespace orve {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::string_view TemporaryPrefix = ".orve-";
+constexpr std::string_view TemporarySuffix = ".tmp";
 
 bool NameExists(const fs::path& path) {
   std::error_code failure;
@@ -47,6 +54,36 @@ bool Holds(const std::string& path, Test test) {
 
 }  // namespace
 
+std::string HexText(std::uint64_t number) {
+  std::array<char, 16> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
+  return std::string(digits.data(), end);
+}
+
+std::string RandomText() {
+  static_assert(std::random_device::max() >= 0xFFFFFFFFu);
+  std::random_device random;
+  const std::uint64_t high = random();
+  return HexText(high << 32 | random());
+}
+
+fs::path TemporaryPath(const fs::path& folder) {
+  return folder / std::string(TemporaryPrefix).append(RandomText()).append(TemporarySuffix);
+}
+
+void SweepTemporaries(const fs::path& folder) {
+  const auto limit = fs::file_time_type::clock::now() - std::chrono::hours(24);
+  std::error_code failure;
+  for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, failure), end;
+       !failure && at != end; at.increment(failure)) {
+    const std::string name = PathText(at->path().filename());
+    if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporarySuffix)) continue;
+    std::error_code gone;
+    if (fs::last_write_time(at->path(), gone) < limit && !gone && IsOwnPlainFile(at->path()))
+      fs::remove(at->path(), gone);
+  }
+}
+
 // Paths are UTF-8 inside, whatever the machine's own encoding is. Where it isn't bytes, they must convert.
 fs::path TextPath(const std::string& text) {
   constexpr bool bytes = std::is_same_v<fs::path::value_type, char>;
@@ -67,6 +104,11 @@ void RaiseFileError(ErrorNumber number, const std::string& path) {
   if (number == ErrorNumber::PermissionDenied) text = "Permission denied";
   if (number == ErrorNumber::PathNotFound) text = "Path not found";
   throw Error(number, std::string(text).append(": ").append(StoredPath(path)));
+}
+
+void RaiseNoPlainFile(const std::string& path) {
+  throw Error(ErrorNumber::PathFileAccess,
+              "Path/File access error: " + StoredPath(path) + " isn't a plain file");
 }
 
 void RefuseLargeFile(std::size_t size, const std::string& path) {

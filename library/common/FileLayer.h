@@ -37,8 +37,9 @@ enum class Durability {
 };
 /// Writes a file so that a crash leaves either the old or the new content: the text goes to a temporary file
 /// beside the target and is renamed over it. Where the folder doesn't allow that, the file is written in
-/// place. A failed write leaves the old content, but for one in place. Gives the state of the new file.
-/// Errors: 57, 61, 70, 75, 76.
+/// place, and so is one that has more names than one, or whose owner, group, access list or users' attributes
+/// the new file couldn't get. A failed write leaves the old content. Gives the state of the new file. Errors:
+/// 57, 61, 70, 75, 76.
 FileState WriteWholeFile(const std::string& path, std::string_view content, Durability durability);
 /// Ends an existing file at a byte. False if that fails.
 bool TruncateFile(const std::string& path, std::size_t length);

@@ -1,7 +1,7 @@
 // The file layer on Windows.
 #define WIN32_LEAN_AND_MEAN
 #include <algorithm>
-#include <atomic>
+#include <array>
 #include <utility>
 #include <windows.h>
 
@@ -9,6 +9,7 @@
 #include "common/FileLayer.h"
 #include "common/FileLayerParts.h"
 #include "common/Host.h"
+#include "common/PutAside.h"
 
 namespace orve {
 
@@ -25,6 +26,7 @@ class FileHandle {
 
   explicit operator bool() const { return m_handle != INVALID_HANDLE_VALUE; }
   HANDLE Get() const { return m_handle; }
+  void Swap(FileHandle& other) { std::swap(m_handle, other.m_handle); }
   void Close() {
     if (m_handle != INVALID_HANDLE_VALUE) ::CloseHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE));
   }
@@ -99,13 +101,6 @@ DWORD Flush(HANDLE handle, Durability durability) {
   return ERROR_SUCCESS;
 }
 
-fs::path TemporaryName(const fs::path& target) {
-  static std::atomic<unsigned> counter{0};
-  const std::string name =
-      ".orve-" + std::to_string(::GetCurrentProcessId()) + "-" + std::to_string(counter++) + ".tmp";
-  return target.parent_path() / name;
-}
-
 DWORD WriteTemporary(const fs::path& path, std::string_view content, Durability durability) {
   const FileHandle handle(Open(path, GENERIC_WRITE, CREATE_NEW));
   if (!handle) return ::GetLastError();
@@ -113,30 +108,119 @@ DWORD WriteTemporary(const fs::path& path, std::string_view content, Durability 
   return cause == ERROR_SUCCESS ? Flush(handle.Get(), durability) : cause;
 }
 
-DWORD WriteInPlace(const fs::path& target, std::string_view content, Durability durability) {
-  const FileHandle handle(Open(target, GENERIC_WRITE, OPEN_EXISTING));
-  if (!handle) return ::GetLastError();
-  const DWORD cause = WriteAll(handle.Get(), content);
-  if (cause != ERROR_SUCCESS) return cause;
-  return ::SetEndOfFile(handle.Get()) ? Flush(handle.Get(), durability) : ::GetLastError();
+bool ToBegin(HANDLE handle) {
+  return ::SetFilePointerEx(handle, LARGE_INTEGER{}, nullptr, FILE_BEGIN);
 }
 
-/// Puts the temporary file in the target's place, with the target's attributes and rights if there is one,
-/// unless the file system can only rename.
+bool EndAt(HANDLE handle, LONGLONG length) {
+  LARGE_INTEGER end{};
+  end.QuadPart = length;
+  return ::SetFilePointerEx(handle, end, nullptr, FILE_BEGIN) && ::SetEndOfFile(handle);
+}
+
+/// Both files are taken from their first byte on.
+DWORD CopyContent(HANDLE from, HANDLE to) {
+  if (!ToBegin(from) || !ToBegin(to)) return ::GetLastError();
+  std::array<char, 65536> part;
+  for (;;) {
+    DWORD got = 0;
+    if (!::ReadFile(from, part.data(), static_cast<DWORD>(part.size()), &got, nullptr))
+      return ::GetLastError();
+    if (got == 0) return ERROR_SUCCESS;
+    if (const DWORD cause = WriteAll(to, {part.data(), got})) return cause;
+  }
+}
+
+/// The old content of a file that is written in place. Nobody else can open the copy while it is held.
+struct Copy {
+  FileHandle handle{INVALID_HANDLE_VALUE};
+  fs::path path;
+
+  DWORD MakeIn(const fs::path& folder, const std::string& name, HANDLE content, Durability durability) {
+    const fs::path temporary = TemporaryPath(folder);
+    FileHandle made(::CreateFileW(temporary.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_DELETE,
+                                  nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!made) return ::GetLastError();
+    DWORD cause = CopyContent(content, made.Get());
+    if (cause == ERROR_SUCCESS) cause = Flush(made.Get(), durability);
+    // Only a whole copy gets the name by which it is found.
+    path = folder / name;
+    if (cause == ERROR_SUCCESS && !::MoveFileExW(temporary.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH))
+      cause = ::GetLastError();
+    if (cause == ERROR_SUCCESS)
+      handle.Swap(made);
+    else
+      ::DeleteFileW(temporary.c_str());
+    return cause;
+  }
+};
+
+/// Writes from the first byte on and cuts what stood behind. What stood there is put aside until the new
+/// content is whole, and comes back if the writing fails.
+DWORD WriteInPlace(const fs::path& target, std::string_view content, Durability durability) {
+  const FileHandle file(Open(target, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING));
+  LARGE_INTEGER before{};
+  if (!file || !::GetFileSizeEx(file.Get(), &before)) return ::GetLastError();
+  Copy copy;
+  DWORD cause = ERROR_PATH_NOT_FOUND;
+  for (const fs::path& folder : PutAsideFolders()) {
+    cause = copy.MakeIn(folder, PutAsideName(target, StateOf(file.Get())), file.Get(), durability);
+    if (cause == ERROR_SUCCESS) break;
+  }
+  if (cause != ERROR_SUCCESS) return cause;
+  const auto length = static_cast<LONGLONG>(content.size());
+  // A file that grows gets its room first.
+  if (length > before.QuadPart && !EndAt(file.Get(), length)) cause = ::GetLastError();
+  if (cause == ERROR_SUCCESS && !ToBegin(file.Get())) cause = ::GetLastError();
+  if (cause == ERROR_SUCCESS) cause = WriteAll(file.Get(), content);
+  if (cause == ERROR_SUCCESS && !EndAt(file.Get(), length)) cause = ::GetLastError();
+  if (cause == ERROR_SUCCESS) cause = Flush(file.Get(), durability);
+  const bool restored = cause != ERROR_SUCCESS &&
+                        CopyContent(copy.handle.Get(), file.Get()) == ERROR_SUCCESS &&
+                        EndAt(file.Get(), before.QuadPart);
+  copy.handle.Close();
+  if (cause == ERROR_SUCCESS || restored) ::DeleteFileW(copy.path.c_str());
+  return cause;
+}
+
+/// Puts the temporary file in the target's place, with the target's attributes and rights if there is one. A
+/// file system that has none can only rename.
 DWORD Replace(const fs::path& target, const fs::path& temporary, bool present) {
-  const bool done =
-      (present && ::ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                                 nullptr, nullptr)) ||
-      ::MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-  return done ? ERROR_SUCCESS : ::GetLastError();
+  if (present) {
+    if (::ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, 0, nullptr, nullptr)) return ERROR_SUCCESS;
+    const DWORD cause = ::GetLastError();
+    if (cause != ERROR_INVALID_FUNCTION && cause != ERROR_NOT_SUPPORTED &&
+        cause != ERROR_CALL_NOT_IMPLEMENTED)
+      return cause;
+  }
+  constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  return ::MoveFileExW(temporary.c_str(), target.c_str(), how) ? ERROR_SUCCESS : ::GetLastError();
 }
 
 /// The folder takes no new file, or another program holds the target open in a way that bars its replacing.
 bool ReplacingBarred(DWORD cause) {
-  return cause == ERROR_ACCESS_DENIED || cause == ERROR_SHARING_VIOLATION || cause == ERROR_USER_MAPPED_FILE;
+  return cause == ERROR_ACCESS_DENIED || cause == ERROR_SHARING_VIOLATION ||
+         cause == ERROR_USER_MAPPED_FILE || cause == ERROR_UNABLE_TO_REMOVE_REPLACED ||
+         cause == ERROR_UNABLE_TO_MOVE_REPLACEMENT;
+}
+
+/// Hard links, which stay names of the file.
+bool HasOtherNames(HANDLE handle) {
+  BY_HANDLE_FILE_INFORMATION about{};
+  return ::GetFileInformationByHandle(handle, &about) && about.nNumberOfLinks > 1;
 }
 
 }  // namespace
+
+// The folders of settings and temporary files are their user's own here.
+bool IsOwnPlainFile(const fs::path& file) {
+  std::error_code failure;
+  return fs::is_regular_file(fs::symlink_status(file, failure));
+}
+
+bool IsLeftCopy(const fs::path& copy) {
+  return IsOwnPlainFile(copy) && FileHandle(Open(copy, GENERIC_READ, OPEN_EXISTING));
+}
 
 FileState StateOfFile(const std::string& path) {
   if (path.empty() || path.find('\0') != std::string::npos) return {};
@@ -177,13 +261,19 @@ FileState WriteWholeFile(const std::string& path, std::string_view content, Dura
   // A rename over a protected file isn't refused everywhere.
   if (present && (::GetFileAttributesW(target.c_str()) & FILE_ATTRIBUTE_READONLY) != 0)
     Raise(ERROR_ACCESS_DENIED, path, target);
+  if (present && ::GetFileType(probe.Get()) != FILE_TYPE_DISK) RaiseNoPlainFile(path);
+  const bool otherNames = present && HasOtherNames(probe.Get());
   probe.Close();
 
-  const fs::path temporary = TemporaryName(target);
-  DWORD cause = WriteTemporary(temporary, content, durability);
-  if (cause == ERROR_SUCCESS) cause = Replace(target, temporary, present);
-  if (cause != ERROR_SUCCESS) ::DeleteFileW(temporary.c_str());
-  if (present && ReplacingBarred(cause)) cause = WriteInPlace(target, content, durability);
+  SweepTemporaries(target.parent_path());
+  const fs::path temporary = TemporaryPath(target.parent_path());
+  DWORD cause = ERROR_SUCCESS;
+  if (!otherNames) {
+    cause = WriteTemporary(temporary, content, durability);
+    if (cause == ERROR_SUCCESS) cause = Replace(target, temporary, present);
+    if (cause != ERROR_SUCCESS) ::DeleteFileW(temporary.c_str());
+  }
+  if (otherNames || (present && ReplacingBarred(cause))) cause = WriteInPlace(target, content, durability);
   if (cause != ERROR_SUCCESS) Raise(cause, path, target);
   // Asked for by name: the replacement takes over some of the earlier file's marks.
   return StateOfFile(path);

@@ -32,6 +32,10 @@ struct HostServices {
   /// Folder of the library, where the settings file lies. Default: the running program's folder.
   std::function<std::string()> LibraryFolder;
 
+  /// The settings' folder doesn't outlast the program: nothing in it is flushed to the disk or has to be
+  /// found again.
+  bool SettingsAreTemporary = false;
+
   /// The system directory, under which the components' data folder "wzfdata" lies. Default: the installed
   /// `share/orve` that stands beside the running program's folder.
   std::function<std::string()> SystemDirectory;

@@ -8,6 +8,7 @@
 #include "common/Error.h"
 #include "common/LetterCase.h"
 #include "common/Narrow.h"
+#include "common/TextEncoding.h"
 
 namespace orve {
 
@@ -153,7 +154,7 @@ template <class Float>
 Float Convert(std::string_view text) {
   std::string_view number = TrimBlanks(text);
   if (number.empty() || NumberLength(number) != number.size())
-    throw Error(ErrorNumber::TypeMismatch, "Type mismatch: \"" + std::string(text) + "\" isn't a number");
+    throw Error(ErrorNumber::TypeMismatch, "Type mismatch: \"" + ShortText(text) + "\" isn't a number");
   if (number[0] == '+') number.remove_prefix(1);
   Float value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);

@@ -21,18 +21,6 @@ std::string_view WithoutQuotes(std::string_view value) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-bool StartsCharacter(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-}
-
-/// At most so many characters of a UTF-8 text.
-std::string FirstCharacters(std::string_view text, std::size_t count) {
-  std::size_t at = 0;
-  for (; at < text.size(); ++at)
-    if (StartsCharacter(text[at]) && count-- == 0) break;
-  return std::string(text.substr(0, at));
-}
-
 /// The upper-case name of a section line; empty for any other line.
 std::string SectionName(std::string_view line) {
   const std::size_t close = line.find(']');
@@ -132,10 +120,10 @@ void ProfileFile::Value(std::string_view section, std::string_view key, std::str
   m_text.insert(at, added);
 }
 
-void ProfileFile::Store(const std::string& path) const {
+void ProfileFile::Store(const std::string& path, Durability durability) const {
   if (m_unreadable || !m_changed) return;
   try {
-    WriteWholeFile(path, m_text, Durability::Atomic);
+    WriteWholeFile(path, m_text, durability);
   } catch (const Error&) {
     // An unwritable settings file leaves the setting unsaved; it never stops the operation that sets it.
   }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "common/FileLayer.h"
+
 namespace orve {
 
 /// The text of one profile file between its reading and its writing. Names of sections and keys are found in
@@ -25,7 +27,7 @@ class ProfileFile {
   void Value(std::string_view section, std::string_view key, std::string_view value);
   /// Writes the file back, if a value has changed. On an unwritable file nothing is stored and nothing
   /// reported.
-  void Store(const std::string& path) const;
+  void Store(const std::string& path, Durability durability = Durability::Atomic) const;
 
   const std::string& Text() const { return m_text; }
 

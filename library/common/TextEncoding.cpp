@@ -48,7 +48,24 @@ std::size_t SequenceLength(std::string_view bytes) {
   return 0;
 }
 
+bool StartsCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
 }  // namespace
+
+std::string FirstCharacters(std::string_view text, std::size_t count) {
+  std::size_t at = 0;
+  for (; at < text.size(); ++at)
+    if (StartsCharacter(text[at]) && count-- == 0) break;
+  return std::string(text.substr(0, at));
+}
+
+std::string ShortText(std::string_view text) {
+  constexpr std::size_t mostShown = 100;
+  const std::string shown = FirstCharacters(text, mostShown);
+  return shown.size() < text.size() ? shown + "..." : shown;
+}
 
 std::string ToUtf8(std::string_view bytes) {
   std::string text;

@@ -1,6 +1,7 @@
 #include "storage/CaseFileQueries.h"
 
 #include "common/FileLayer.h"
+#include "common/PutAside.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "storage/clsSaveFile.h"
@@ -13,6 +14,10 @@ std::string ResolveFileName(const std::string& name) {
 
 bool CaseFileExists(const std::string& name) {
   return IsPlainFile(name);
+}
+
+std::string CopyPutAside(const std::string& name) {
+  return FindPutAside(name);
 }
 
 bool CaseFileChanged() {

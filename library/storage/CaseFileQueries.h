@@ -19,4 +19,8 @@ bool CaseFileExists(const std::string& name);
 /// file that it neither was read from nor written to. False for a case without a file. Ask before saving.
 bool CaseFileChanged();
 
+/// The machine's path of the copy that an interrupted save left of a file that it was writing in place, if
+/// the file isn't the same; empty if there is none. Errors: 75 for an empty name or one with a zero byte.
+std::string CopyPutAside(const std::string& name);
+
 }  // namespace orve

@@ -61,7 +61,7 @@ void clsSaveFile::RecentFileAdd(const std::string& fileName) {
     profile.Value(m_ApplicationName, EntryKey(index + 1), value.value_or(std::string()));
   }
   profile.Value(m_ApplicationName, EntryKey(1), name);
-  profile.Store(m_PathToApplicationINI);
+  StoreSettings(profile);
 }
 
 std::int16_t clsSaveFile::RecentFileCount() const {

@@ -2,11 +2,15 @@
 #include "storage/clsSaveFile.h"
 
 #include <optional>
+#include <utility>
 
 #include "common/Error.h"
 #include "common/FileLayer.h"
+#include "common/Host.h"
 #include "common/HostCalls.h"
 #include "common/NumberText.h"
+#include "common/ProfileFile.h"
+#include "common/PutAside.h"
 #include "common/clsCommon.h"
 #include "common/clsWinAPI.h"
 #include "storage/clsCommonDialog.h"
@@ -18,6 +22,19 @@ namespace {
 constexpr const char* LibraryTitle = "ORVE3_BS6399_2";
 constexpr const char* PathKey = "PathToSaveFiles";
 constexpr std::int32_t StopButtons = 16;
+
+/// Marks the time of a save, in which the settings go to the disk with the document.
+class SavingMark {
+ public:
+  explicit SavingMark(bool& saving) : m_saving(saving), m_before(std::exchange(saving, true)) {}
+  ~SavingMark() { m_saving = m_before; }
+  SavingMark(const SavingMark&) = delete;
+  SavingMark& operator=(const SavingMark&) = delete;
+
+ private:
+  bool& m_saving;
+  bool m_before;
+};
 
 bool IsCancel(const Error& error) {
   return error.Number() == static_cast<int>(ErrorNumber::DialogCancelled);
@@ -33,8 +50,9 @@ std::string clsSaveFile::PathToSaveFiles() const {
 }
 
 void clsSaveFile::PathToSaveFiles(const std::string& value) {
-  clsWinAPI().API_PrivateProfileString(m_PathToApplicationINI, m_ApplicationName, PathKey, std::string(),
-                                       StoredPath(value));
+  ProfileFile profile = ProfileFile::Load(m_PathToApplicationINI);
+  profile.Value(m_ApplicationName, PathKey, StoredPath(value));
+  StoreSettings(profile);
 }
 
 void clsSaveFile::Blank(bool value) {
@@ -82,6 +100,7 @@ bool clsSaveFile::OpenFile(const std::string& fileNameToOpen) {
                     "Cannot Continue");
       return false;
     }
+    NameCopyPutAside(name);
     bool cancel = false;
     OpenFileEvent.Raise(name, cancel);
     return !cancel && TakeOver(name);
@@ -99,6 +118,7 @@ bool clsSaveFile::SaveFile(const std::string& fileNameToSave) {
       if (!chosen) return false;
       name = *chosen;
     }
+    const SavingMark saving(m_saving);
     PathToSaveFiles(clsCommon().ExtractPathName(name));
     bool cancel = false;
     SaveFileEvent.Raise(name, cancel);
@@ -107,6 +127,20 @@ bool clsSaveFile::SaveFile(const std::string& fileNameToSave) {
     if (IsCancel(error)) return false;
     throw;
   }
+}
+
+void clsSaveFile::StoreSettings(const ProfileFile& profile) const {
+  const bool flush = m_saving && !Host().SettingsAreTemporary;
+  profile.Store(m_PathToApplicationINI, flush ? Durability::Flushed : Durability::Atomic);
+}
+
+/// A file that an interrupted save left half written opens too, so its user is told of the copy.
+void clsSaveFile::NameCopyPutAside(const std::string& name) const {
+  const std::string copy = FindPutAside(name);
+  if (copy.empty()) return;
+  const std::string file(TrimBlanks(name));
+  clsCommon().MsgBox("A Save of " + file + " Was Interrupted. What It Held Before Is In: " + StoredPath(copy),
+                     StopButtons, "Interrupted Save");
 }
 
 bool clsSaveFile::TakeOver(const std::string& name) {

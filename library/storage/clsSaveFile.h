@@ -10,6 +10,7 @@
 
 namespace orve {
 
+class ProfileFile;
 class clsCommonDialog;
 
 /// A generic document manager: it holds the state of one document (new, changed, its file name), shows the
@@ -100,6 +101,8 @@ class clsSaveFile {
  private:
   std::optional<std::string> AskUser(bool save);
   bool TakeOver(const std::string& name);
+  void StoreSettings(const ProfileFile& profile) const;
+  void NameCopyPutAside(const std::string& name) const;
 
   std::string m_ApplicationName;
   clsCommonDialog* m_CommonDialog = nullptr;
@@ -108,6 +111,7 @@ class clsSaveFile {
   std::string m_PathToApplicationINI;
   bool m_Blank = false;
   bool m_Dirty = false;
+  bool m_saving = false;
   std::string m_FileName;
   std::string m_DataBuffer;
   std::string m_knownName;  ///< The file that was last read or written, and its state then.

@@ -270,6 +270,7 @@ TEST_F(CaseList, ListsRecentCasesWithoutTouchingTheOpenOne) {
   EXPECT_EQ(list->Location(2), upper);
   EXPECT_TRUE(list->LocationCorrect(2)) << "found in the case that the file has";
   list->Index(2);
+  EXPECT_EQ(list->Location(0), "") << "an index of 0 isn't the selected entry";
   EXPECT_EQ(list->Description(), "a[b");
   EXPECT_EQ(list->Created(), 40141);
   EXPECT_EQ(list->Modified(), 0) << "a date that doesn't convert";

@@ -3,15 +3,18 @@
 #include <chrono>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <optional>
 #include <random>
 #include <signal.h>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include "StorageTest.h"
+#include "common/FileLayer.h"
 
 namespace orve::test {
 namespace {
@@ -112,6 +115,142 @@ TEST_F(Faults, AWritableFileInAClosedFolderIsWrittenInPlace) {
   EXPECT_NE(text.find("Description=changed\r\n"), std::string::npos);
 }
 
+TEST_F(Faults, AFullDiskLeavesTheOldFileInPlaceToo) {
+  fs::create_hard_link(folder / "cases/old.wlc", folder / "cases/link.wlc");
+  root->Description(std::string(200000, 'x'));
+  {
+    const FullDisk disk(100000);
+    EXPECT_EQ(RaisedBy([&] { root->Save(); }).text, "Disk full: " + Stored("cases/old.wlc"));
+  }
+  EXPECT_EQ(ReadBytes(folder / "cases/link.wlc"), old);
+  EXPECT_EQ(CopyPutAside(In("cases/old.wlc")), "");
+  EXPECT_FALSE(CaseFileChanged());
+  root->Save();
+  EXPECT_EQ(ReadBytes(folder / "cases/link.wlc"), ReadBytes(folder / "cases/old.wlc"));
+  EXPECT_FALSE(CaseFileChanged());
+}
+
+TEST_F(Faults, AnInterruptedSaveInPlaceLeavesACopyThatTheNextOpeningNames) {
+  const fs::path file = folder / "cases/old.wlc";
+  fs::create_hard_link(file, folder / "cases/link.wlc");
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const rlimit limit{100000, 100000};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    root->Description(std::string(200000, 'x'));
+    root->Save();
+    ::_exit(0);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  ASSERT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(CopyPutAside(file.string()), "") << "the file is as it was";
+  fs::resize_file(file, 1000);
+  for (const char* name : {"cases/OLD.wlc", "cases/link.wlc"}) {
+    const fs::path copy = CopyPutAside(In(name));
+    EXPECT_EQ(copy.parent_path(), folder);
+    EXPECT_EQ(ReadBytes(copy), old);
+    EXPECT_EQ(fs::status(copy).permissions(), fs::perms(0600));
+    root->IsDirty(false);
+    messages.clear();
+    EXPECT_TRUE(Open(name));
+    ASSERT_EQ(messages.size(), 1u);
+    EXPECT_NE(messages[0].find(copy.filename().string()), std::string::npos) << messages[0];
+  }
+  Host().SettingsAreTemporary = true;
+  EXPECT_EQ(CopyPutAside(file.string()), "");
+}
+
+TEST_F(Faults, ASaveSweepsOldTemporaryFilesOfItsUser) {
+  for (const char* name : {".orve-1-1.tmp", ".orve-new.tmp", "orve.tmp"})
+    WriteBytes(folder / "cases" / name, "");
+  for (const char* name : {".orve-1-1.tmp", "orve.tmp"})
+    fs::last_write_time(folder / "cases" / name, fs::file_time_type::clock::now() - std::chrono::hours(25));
+  root->Save();
+  EXPECT_FALSE(fs::exists(folder / "cases/.orve-1-1.tmp"));
+  EXPECT_EQ(FilesInCases(), 3);
+}
+
+/// Who can read a file, and what its users noted at it.
+struct Rights {
+  uid_t owner;
+  gid_t group;
+  mode_t mode;
+  std::string list;
+  std::string note;
+
+  explicit Rights(const fs::path& file) {
+    struct stat status {};
+    ::stat(file.c_str(), &status);
+    owner = status.st_uid;
+    group = status.st_gid;
+    mode = status.st_mode;
+    list = Attribute(file, "system.posix_acl_access");
+    note = Attribute(file, "user.note");
+  }
+  bool operator==(const Rights&) const = default;
+
+  static std::string Attribute(const fs::path& file, const char* name) {
+    char value[256];
+    const ssize_t length = ::getxattr(file.c_str(), name, value, sizeof value);
+    return std::string(value, length < 0 ? 0 : static_cast<std::size_t>(length));
+  }
+};
+
+TEST_F(Faults, ASaveKeepsWhoCanRead) {
+  // User 65534 may read and write, the owning group may not.
+  const std::string list(
+      "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\xFE\xFF\0\0\4\0\0\0\xFF\xFF\xFF\xFF\x10\0\6\0\xFF\xFF\xFF\xFF"
+      "\x20\0\0\0\xFF\xFF\xFF\xFF",
+      44);
+  const bool privileged = ::geteuid() == 0;
+  constexpr uid_t nobody = 65534;
+  constexpr gid_t team = 3000;
+  struct Case {
+    const char* what;
+    bool listed;
+    uid_t owner;
+    gid_t group;
+    mode_t mode;
+    bool asNobody;
+    bool inPlace;
+  };
+  const Case cases[] = {{"an access list", true, ::geteuid(), ::getegid(), 0640, false, false},
+                        {"plain rights in a folder with a list of its own", false, ::geteuid(), ::getegid(),
+                         0640, false, false},
+                        {"another owner and group", true, nobody, team, 0660, false, false},
+                        {"a group that the saver isn't in", false, nobody, team, 0660, true, true},
+                        {"an owner who would lose the file", true, 2001, 0, 0640, true, true}};
+  fs::permissions(folder / "cases", fs::perms(0777));
+  for (const Case& c : cases) {
+    if (!privileged && c.owner != ::geteuid()) continue;
+    const fs::path file = folder / "cases/rights.wlc";
+    fs::remove(file);
+    WriteBytes(file, old);
+    ASSERT_EQ(::setxattr(file.c_str(), "user.note", "keep", 4, 0), 0);
+    ASSERT_EQ(::chown(file.c_str(), c.owner, c.group), 0);
+    ASSERT_EQ(::chmod(file.c_str(), c.mode), 0);
+    if (c.listed) {
+      ASSERT_EQ(::setxattr(file.c_str(), "system.posix_acl_access", list.data(), list.size(), 0), 0);
+    } else {
+      ASSERT_EQ(
+          ::setxattr((folder / "cases").c_str(), "system.posix_acl_default", list.data(), list.size(), 0), 0);
+    }
+    const Rights before(file);
+    const FileState place = StateOfFile(file.string());
+    {
+      std::optional<OrdinaryUser> user;
+      if (c.asNobody) user.emplace();
+      SaveAs("cases/rights.wlc");
+    }
+    EXPECT_EQ(Rights(file), before) << c.what;
+    EXPECT_EQ(before.note, "keep") << c.what;
+    EXPECT_NE(ReadBytes(file), old) << c.what;
+    EXPECT_EQ(StateOfFile(file.string()).file == place.file, c.inPlace) << c.what;
+    ::removexattr((folder / "cases").c_str(), "system.posix_acl_default");
+  }
+}
+
 TEST_F(Faults, PlacesThatAreNoFileRefuseTheSave) {
   fs::create_directory(folder / "folder.wlc");
   fs::create_directory(folder / "vanished");
@@ -124,8 +263,9 @@ TEST_F(Faults, PlacesThatAreNoFileRefuseTheSave) {
   ExpectRefused([&] { SaveAs("folder.wlc"); }, 75, "Path/File access error: " + Stored("folder.wlc"));
   ExpectRefused([&] { SaveAs("vanished/x.wlc"); }, 76, "Path not found: " + Stored("vanished/x.wlc"));
   ExpectRefused([&] { SaveAs("cases/old.wlc/x"); }, 76, "Path not found: " + Stored("cases/old.wlc/x"));
-  chosen = "/dev/full";
-  ExpectRefused([&] { root->SaveAs(); }, 61, "Disk full: \\dev\\full");
+  fs::create_symlink("/dev/null", folder / "nothing.wlc");
+  ExpectRefused([&] { SaveAs("nothing.wlc"); }, 75,
+                "Path/File access error: " + Stored("nothing.wlc") + " isn't a plain file");
 }
 
 TEST_F(Faults, ASaveKeepsLinkAndMode) {
@@ -171,8 +311,13 @@ pid_t StartSaving(const std::string& path, const std::string (&versions)[2]) {
   }
 }
 
-TEST_F(Faults, AKilledSaveLeavesOneOfTheTwoWholeVersions) {
+class KilledSaves : public Faults, public testing::WithParamInterface<bool> {};
+INSTANTIATE_TEST_SUITE_P(InPlace, KilledSaves, testing::Bool());
+
+// In place (a file of two names is written so) the whole version may be the copy put aside.
+TEST_P(KilledSaves, LeaveOneOfTheTwoWholeVersions) {
   const std::string versions[2] = {std::string(700, 'a'), std::string(60000, 'b')};
+  if (GetParam()) fs::create_hard_link(folder / "cases/old.wlc", folder / "cases/link.wlc");
   std::string whole[2];
   const auto start = std::chrono::steady_clock::now();
   for (int version = 0; version < 2; ++version) {
@@ -193,7 +338,11 @@ TEST_F(Faults, AKilledSaveLeavesOneOfTheTwoWholeVersions) {
     ::usleep(std::uniform_int_distribution<useconds_t>(0, static_cast<useconds_t>(longest))(random));
     ::kill(child, SIGKILL);
     ::waitpid(child, nullptr, 0);
-    const std::string found = ReadBytes(folder / "cases/old.wlc");
+    std::string found = ReadBytes(folder / "cases/old.wlc");
+    if (GetParam() && found != whole[0] && found != whole[1]) {
+      found = ReadBytes(CopyPutAside(In("cases/old.wlc")));
+      WriteBytes(folder / "cases/old.wlc", found);
+    }
     ASSERT_TRUE(found == whole[0] || found == whole[1])
         << "kill " << kill << ", " << found.size() << " bytes";
     ++seen[found == whole[1] ? 1 : 0];

@@ -125,6 +125,9 @@ TEST_F(SaveFile, OpensAndSavesThroughItsOwner) {
   const auto saved = file.SaveFileEvent.Connect(work);
   EXPECT_TRUE(file.OpenFile(In("a.wlc")));
   EXPECT_EQ(file.FileName(), Stored("a.wlc"));
+  EXPECT_TRUE(file.SaveFile(In("other/a.wlc")));
+  EXPECT_EQ(file.PathToSaveFiles(), Stored("other\\")) << "a save notes its folder too";
+  EXPECT_TRUE(file.OpenFile(In("a.wlc")));
   file.Dirty(true);
   refuse = true;
   EXPECT_FALSE(file.SaveFile(In("b.wlc")));
