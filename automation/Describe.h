@@ -21,6 +21,15 @@ struct ArgumentName {
 };
 using ArgumentNames = std::vector<ArgumentName>;
 
+/// What a row says in words: as the fields of `MemberDescription`.
+struct MemberText {
+  std::string_view unit;
+  std::string_view help;
+  std::string_view range = {};
+  std::string_view errors = {};
+  std::string_view clause = {};
+};
+
 template <class Cpp>
 struct TypeOf;
 
@@ -163,66 +172,62 @@ class ClassDescriber {
   template <class R, class V>
   requires(!std::is_void_v<R>) void Property(int number, std::string_view name, R (Class::*get)() const,
                                              void (Class::*let)(V), const ArgumentNames& names,
-                                             std::string_view unit, std::string_view help) {
-    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {}, unit, help);
+                                             const MemberText& text) {
+    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {}, text);
   }
   template <class R, class V, class A>
   requires(!std::is_void_v<R>) void Property(int number, std::string_view name, R (Class::*get)(A),
                                              void (Class::*let)(A, V), const ArgumentNames& names,
-                                             std::string_view unit, std::string_view help) {
-    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type}, unit, help);
+                                             const MemberText& text) {
+    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type}, text);
   }
   template <class R, class V, class A>
   requires(!std::is_void_v<R>) void Property(int number, std::string_view name, R (Class::*get)(A) const,
                                              void (Class::*let)(A, V), const ArgumentNames& names,
-                                             std::string_view unit, std::string_view help) {
-    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type}, unit, help);
+                                             const MemberText& text) {
+    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type}, text);
   }
   template <class R, class V, class A, class B>
   requires(!std::is_void_v<R>) void Property(int number, std::string_view name, R (Class::*get)(A, B),
                                              void (Class::*let)(A, B, V), const ArgumentNames& names,
-                                             std::string_view unit, std::string_view help) {
-    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type, TypeOf<B>::type}, unit,
-                      help);
+                                             const MemberText& text) {
+    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type, TypeOf<B>::type},
+                      text);
   }
   template <class R, class V, class A, class B>
   requires(!std::is_void_v<R>) void Property(int number, std::string_view name, R (Class::*get)(A, B) const,
                                              void (Class::*let)(A, B, V), const ArgumentNames& names,
-                                             std::string_view unit, std::string_view help) {
-    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type, TypeOf<B>::type}, unit,
-                      help);
+                                             const MemberText& text) {
+    AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names, {TypeOf<A>::type, TypeOf<B>::type},
+                      text);
   }
   template <class R, class V, class A, class B, class D>
   requires(!std::is_void_v<R>) void Property(int number, std::string_view name, R (Class::*get)(A, B, D),
                                              void (Class::*let)(A, B, D, V), const ArgumentNames& names,
-                                             std::string_view unit, std::string_view help) {
+                                             const MemberText& text) {
     AddProperty<R, V>(number, name, CallOf(get), CallOf(let), names,
-                      {TypeOf<A>::type, TypeOf<B>::type, TypeOf<D>::type}, unit, help);
+                      {TypeOf<A>::type, TypeOf<B>::type, TypeOf<D>::type}, text);
   }
 
   template <class R, class... A>
   void ReadOnly(int number, std::string_view name, R (Class::*get)(A...), const ArgumentNames& names,
-                std::string_view unit, std::string_view help) {
-    AddMember<R>(number, name, false, CallOf(get), names, {TypeOf<std::remove_cvref_t<A>>::type...}, unit,
-                 help);
+                const MemberText& text) {
+    AddMember<R>(number, name, false, CallOf(get), names, {TypeOf<std::remove_cvref_t<A>>::type...}, text);
   }
   template <class R, class... A>
   void ReadOnly(int number, std::string_view name, R (Class::*get)(A...) const, const ArgumentNames& names,
-                std::string_view unit, std::string_view help) {
-    AddMember<R>(number, name, false, CallOf(get), names, {TypeOf<std::remove_cvref_t<A>>::type...}, unit,
-                 help);
+                const MemberText& text) {
+    AddMember<R>(number, name, false, CallOf(get), names, {TypeOf<std::remove_cvref_t<A>>::type...}, text);
   }
   template <class R, class... A>
   void Method(int number, std::string_view name, R (Class::*call)(A...), const ArgumentNames& names,
-              std::string_view unit, std::string_view help) {
-    AddMember<R>(number, name, true, CallOf(call), names, {TypeOf<std::remove_cvref_t<A>>::type...}, unit,
-                 help);
+              const MemberText& text) {
+    AddMember<R>(number, name, true, CallOf(call), names, {TypeOf<std::remove_cvref_t<A>>::type...}, text);
   }
   template <class R, class... A>
   void Method(int number, std::string_view name, R (Class::*call)(A...) const, const ArgumentNames& names,
-              std::string_view unit, std::string_view help) {
-    AddMember<R>(number, name, true, CallOf(call), names, {TypeOf<std::remove_cvref_t<A>>::type...}, unit,
-                 help);
+              const MemberText& text) {
+    AddMember<R>(number, name, true, CallOf(call), names, {TypeOf<std::remove_cvref_t<A>>::type...}, text);
   }
 
   template <class... A>
@@ -250,21 +255,24 @@ class ClassDescriber {
  private:
   template <class R, class V>
   void AddProperty(int number, std::string_view name, Call get, Call let, const ArgumentNames& names,
-                   const std::vector<Type>& types, std::string_view unit, std::string_view help) {
+                   const std::vector<Type>& types, const MemberText& text) {
     static_assert(std::is_same_v<std::remove_cvref_t<R>, std::remove_cvref_t<V>>);
-    AddMember<R>(number, name, false, get, names, types, unit, help).let = let;
+    AddMember<R>(number, name, false, get, names, types, text).let = let;
   }
   template <class R>
   MemberDescription& AddMember(int number, std::string_view name, bool isMethod, Call get,
                                const ArgumentNames& names, const std::vector<Type>& types,
-                               std::string_view unit, std::string_view help) {
+                               const MemberText& text) {
     return m_class.members.emplace_back(MemberDescription{number,
                                                           name,
                                                           isMethod,
                                                           Arguments(name, names, types),
                                                           TypeOf<std::remove_cvref_t<R>>::type,
-                                                          unit,
-                                                          help,
+                                                          text.unit,
+                                                          text.help,
+                                                          text.range,
+                                                          text.errors,
+                                                          text.clause,
                                                           get,
                                                           {}});
   }
@@ -294,13 +302,14 @@ ClassDescription ClassDescriber<Class>::Finish() {
   return std::move(m_class);
 }
 
-// One member of the class `Class`, described by the `describe` at hand; the name is written once.
-#define ORVE_PROPERTY(number, Name, arguments, unit, help) \
-  describe.Property(number, #Name, &Class::Name, &Class::Name, arguments, unit, help)
-#define ORVE_READ_ONLY(number, Name, arguments, unit, help) \
-  describe.ReadOnly(number, #Name, &Class::Name, arguments, unit, help)
-#define ORVE_METHOD(number, Name, arguments, unit, help) \
-  describe.Method(number, #Name, &Class::Name, arguments, unit, help)
+// One member of the class `Class`, described by the `describe` at hand; the name is written once. After the
+// help come range, errors and clause, as far as there are any.
+#define ORVE_PROPERTY(number, Name, arguments, unit, ...) \
+  describe.Property(number, #Name, &Class::Name, &Class::Name, arguments, {unit, __VA_ARGS__})
+#define ORVE_READ_ONLY(number, Name, arguments, unit, ...) \
+  describe.ReadOnly(number, #Name, &Class::Name, arguments, {unit, __VA_ARGS__})
+#define ORVE_METHOD(number, Name, arguments, unit, ...) \
+  describe.Method(number, #Name, &Class::Name, arguments, {unit, __VA_ARGS__})
 #define ORVE_EVENT(number, Name, arguments, help) describe.Event(number, #Name, &Class::Name, arguments, help)
 
 // The descriptions of the classes, each in a source of its own.

@@ -70,13 +70,18 @@ struct MemberDescription {
   std::string_view name;
   bool isMethod = false;
   std::vector<ArgumentDescription> arguments;
-  Type type;              ///< Of the property, or of the method's result.
-  std::string_view unit;  ///< "m", "degrees", "kN/m²", "path" for a stored path, or empty.
-  std::string_view help;  ///< One line.
-  Call get;               ///< The get, or the method.
-  Call let;               ///< The let or set; the value is its last argument.
+  Type type;                ///< Of the property, or of the method's result.
+  std::string_view unit;    ///< "m", "degrees", "kN/m²", "path" for a stored path, or empty.
+  std::string_view help;    ///< One line.
+  std::string_view range;   ///< Of the value, where the type doesn't say it.
+  std::string_view errors;  ///< Numbers with their causes; empty if only a wrong type or object raises.
+  std::string_view clause;  ///< Of BS 6399-2, "Table 3", or empty.
+  Call get;                 ///< The get, or the method.
+  Call let;                 ///< The let or set; the value is its last argument.
 
   bool ReadOnly() const { return !isMethod && !let; }
+  /// The help with its clause.
+  std::string Summary() const;
 };
 
 using EventHandler = std::function<void(std::span<const Value>)>;
@@ -126,6 +131,14 @@ const std::vector<const ClassDescription*>& Classes();
 const EnumerationDescription* FindEnumeration(std::string_view name);
 const RecordDescription* FindRecord(std::string_view name);
 const ClassDescription* FindClass(std::string_view name);
+
+/// What a member's documentation says besides its help; empty where there is nothing to say. The range of the
+/// value and those of the index arguments follow from their types where the row doesn't give one.
+std::string RangeText(const MemberDescription& member);
+std::string ArgumentRangesText(const MemberDescription& member);
+/// All of it, a line for each: help and unit, then "Range: ", "Arguments: ", "Errors: " and "BS 6399-2: " as
+/// far as there is something to say.
+std::vector<std::string> DocumentationOf(const MemberDescription& member);
 
 /// A record as a value, and a value's fields put into a record.
 Value ReadRecord(const RecordDescription& description, const void* record);

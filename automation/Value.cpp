@@ -67,11 +67,11 @@ std::string ToText(const Value& value) {
   RaiseMismatch("a text");
 }
 
+/// A null reference is no object, which an object property takes.
 const Value& ToObject(const Value& value, std::string_view className) {
   const auto* reference = value.As<ObjectReference>();
   if (reference == nullptr || (reference->object && reference->type->name != className))
     RaiseMismatch("an object of class " + std::string(className));
-  if (!reference->object) throw Error(ErrorNumber::ObjectNotSet, "Object is not set");
   return value;
 }
 

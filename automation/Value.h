@@ -72,7 +72,7 @@ struct Type {
 /// The value in the form in which a type is held: bool, 32-bit integer (whole numbers and enumerations),
 /// float, double (dates), text, object or record. Numbers, texts and bools convert into each other, True as
 /// -1; a fraction goes to the nearest whole number, halves to even. Errors: 13 for what doesn't convert, 6
-/// for what doesn't fit, 91 for a null object. `storage` takes the converted value where one is needed.
+/// for what doesn't fit. A null object stays one. `storage` takes the converted value where one is needed.
 const Value& Coerce(const Value& value, const Type& type, Value& storage);
 
 /// The value as text: "True" and "False", the shortest text of a number, the fields of a record in brackets

@@ -101,7 +101,7 @@ ExitCode RunShow(const Options& options) {
   TextTable table({"Input", "Value", "Unit", "Meaning"});
   for (const auto& [key, value] : values) {
     const auto& member = *inputs.Find(ParseKey(key)).front().member;
-    table.Add({key, value, std::string(member.unit), std::string(member.help)});
+    table.Add({key, value, std::string(member.unit), member.Summary()});
   }
   table.Print(std::cout);
   return ExitCode::Done;

@@ -20,7 +20,7 @@ std::string CppArgument(const ArgumentDescription& argument) {
     case Kind::Record:
       return "FromC(RecordArgument(" + name + ", \"" + name + "\"))";
     case Kind::Object:
-      return "ObjectOf<orve::" + type + ">(" + name + ")";
+      return "ObjectOrNothing<orve::" + type + ">(" + name + ")";
     default:
       return name;
   }
@@ -35,7 +35,7 @@ std::string CallText(const MemberDescription& member, bool withValue) {
 
 std::string FunctionText(const ClassDescription& description, const std::string& declaration,
                          const std::string& check, const std::string& statement) {
-  return declaration + " {\n  try {\n" + check +
+  return declaration + " {\n  const orve::LibraryFloatState state;\n  try {\n" + check +
          "    const auto self = ObjectOf<orve::" + std::string(description.name) + ">(object);\n    " +
          statement + ";\n    return Succeeded();\n  } catch (...) {\n    return Failed();\n  }\n}\n\n";
 }
@@ -68,8 +68,8 @@ std::string EventText(const ClassDescription& description, const EventDescriptio
   return FunctionText(description, CConnectDeclaration(description, event),
                       "    RequireResult(result);\n    RequireCallback(handler != nullptr);\n",
                       "GiveConnection(result, self->" + std::string(event.name) +
-                          ".Connect([handler, user](" + parameters + ") { RaiseFromCallback(handler(" +
-                          arguments + "user)); }))");
+                          ".Connect([handler, user](" + parameters +
+                          ") { RaiseFromCallback(CallHost(handler, " + arguments + "user)); }))");
 }
 
 std::string FreeText(const RecordDescription& record) {
@@ -118,8 +118,9 @@ std::string CClassBody(const ClassDescription& description) {
       "using namespace orve::c;\n");
   if (description.create != nullptr)
     text += CDeclarations(description).front() +
-            " {\n  try {\n    RequireResult(result);\n    GiveObject(result, Create<orve::" + name +
-            ">());\n    return Succeeded();\n  } catch (...) {\n    return Failed();\n  }\n}\n\n";
+            " {\n  const orve::LibraryFloatState state;\n  try {\n    RequireResult(result);\n    "
+            "GiveObject(result, Create<orve::" +
+            name + ">());\n    return Succeeded();\n  } catch (...) {\n    return Failed();\n  }\n}\n\n";
   for (const MemberDescription& member : description.members) {
     text += GetText(description, member);
     if (!member.let) continue;

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "Generate.h"
+#include "common/clsCommon.h"
 
 namespace orve::automation {
 
@@ -50,8 +51,18 @@ ORVE_C_API void orve_free_text(char* text);
 ORVE_C_API void orve_register_built_in_engines(void);
 /* The version, as in "v3.0.33". */
 ORVE_C_API orve_error orve_app_version(char** result);
+/* The version of the library that runs, as ORVE_C_VERSION is the one of this header: 30033 for 3.0.33. */
+ORVE_C_API int32_t orve_version(void);
 /* A stored path, "\" as separator, as the machine's own. */
 ORVE_C_API orve_error orve_native_path(const char* path, char** result);
+/* The file that opening and saving a name use, as a full path: the exact name, else the one that differs in case and
+ * outer blanks alone. For a file that isn't there yet, the path that a save would make. Errors: 75 for an empty name. */
+ORVE_C_API orve_error orve_resolve_file_name(const char* name, char** result);
+/* True if opening that name would find a file, and saving to it would write over one. */
+ORVE_C_API orve_error orve_case_file_exists(const char* name, bool* result);
+/* True if the file of the open case isn't as the last opening or save of it here left it: changed, replaced or gone. Ask
+ * before saving. */
+ORVE_C_API orve_error orve_case_file_changed(bool* result);
 /* Shortest decimal text of a number, point as decimal sign, whatever the locale. */
 ORVE_C_API orve_error orve_single_text(float value, char** result);
 ORVE_C_API orve_error orve_double_text(double value, char** result);
@@ -61,11 +72,21 @@ ORVE_C_API orve_error orve_double_text(double value, char** result);
 
 )";
 
+/// "v3.0.33" as 30033.
+std::string VersionNumber() {
+  const std::string version = clsCommon().AppVersion();
+  const std::size_t minor = version.find('.') + 1;
+  const std::size_t revision = version.find('.', minor) + 1;
+  return std::to_string(std::stoi(version.substr(1)) * 10000 + std::stoi(version.substr(minor)) * 100 +
+                        std::stoi(version.substr(revision)));
+}
+
 constexpr std::string_view Services = R"(/* A callback's result as text: hand it to orve_reply_text. */
 typedef struct orve_reply orve_reply;
 ORVE_C_API void orve_reply_text(orve_reply* reply, const char* text);
 
-/* Settings of a file dialog. Paths have "\" as separator. */
+/* Settings of a file dialog. Paths have "\" as separator. Later versions may add fields at its end; a field is there if it
+ * ends within orve_file_dialog_size() of the library that runs. */
 typedef struct orve_file_dialog {
   const char* DialogTitle;
   const char* Filter;
@@ -74,6 +95,7 @@ typedef struct orve_file_dialog {
   const char* FileName;
   int32_t Flags;
 } orve_file_dialog;
+ORVE_C_API size_t orve_file_dialog_size(void);
 
 /* Services of the host. Each callback gets the user pointer given with it; a null callback brings the headless
  * default back. A dialog gives the name chosen, or the site reference, by orve_reply_text and returns true, or
@@ -114,7 +136,8 @@ std::string EnumerationText(const EnumerationDescription& enumeration) {
   std::string text = "/* " + std::string(enumeration.help) + ". */\ntypedef int32_t " + type + ";\nenum {\n";
   for (const Enumerator& enumerator : enumeration.enumerators)
     text += "  " + type + "_" + std::string(enumerator.name) + " = " + std::to_string(enumerator.value) +
-            ", /* \"" + std::string(enumerator.published) + "\" */\n";
+            (&enumerator == &enumeration.enumerators.back() ? " /* \"" : ", /* \"") +
+            std::string(enumerator.published) + "\" */\n";
   return text +
          "};\n/* The published text of a value; null outside the enumeration. */\nORVE_C_API const char* " +
          type + "_text(" + type + " value);\n\n";
@@ -154,9 +177,7 @@ std::string HandlerTypes(const ClassDescription& description) {
 }
 
 std::string MemberComment(const MemberDescription& member) {
-  std::string text = "/* " + std::string(member.help);
-  if (!member.unit.empty() && member.unit != "path") text += ", " + std::string(member.unit);
-  return text + ". */\n";
+  return "/* " + Join(DocumentationOf(member), "\n * ") + " */\n";
 }
 
 std::string ClassText(const ClassDescription& description) {
@@ -179,11 +200,17 @@ std::string CHeader() {
   std::string text =
       "/* ORVE BS6399-2 Library 3.0 for C99 and C++: wind loads on buildings to BS 6399-2. Every function "
       "may be\n"
-      " * called on one thread only. " +
+      " * called on one thread only, with any\n * floating-point state: calls mask exceptions and round to "
+      "nearest, and the state comes back. " +
       std::string(GeneratedNote) + " */\n";
   text += Opening;
+  text += "/* The version of this header: 10000 major + 100 minor + revision. */\n#define ORVE_C_VERSION " +
+          VersionNumber() + "\n\n";
   for (const EnumerationDescription& enumeration : Enumerations()) text += EnumerationText(enumeration);
-  text += "/* Records. A null text in a record that is given to a function stands for an empty one. */\n\n";
+  text +=
+      "/* Records; their fields never change. A null text in a record that is given to a function stands for "
+      "an empty "
+      "one. */\n\n";
   for (const RecordDescription& record : Records()) text += RecordText(record);
   text += "/* Handles: counted references, each to be released. */\n";
   for (const ClassDescription* description : Classes())

@@ -61,7 +61,7 @@ std::string Line(std::string_view attribute, const MemberDescription& member, st
   if (!last.empty()) parameters.emplace_back(last);
   std::string text = "        [";
   if (!attribute.empty()) text += std::string(attribute) + ", ";
-  return text + "id(" + std::to_string(member.number) + "), helpstring(\"" + std::string(member.help) +
+  return text + "id(" + std::to_string(member.number) + "), helpstring(\"" + member.Summary() +
          "\")] HRESULT " + std::string(member.name) + "(" + Join(parameters, ", ") + ");\n";
 }
 

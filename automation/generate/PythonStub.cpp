@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "Generate.h"
 
 namespace orve::automation {
@@ -14,8 +16,9 @@ std::string PythonType(const Type& type) {
     case Kind::Int32:
       return "int";
     case Kind::Single:
-    case Kind::Date:
       return "float";
+    case Kind::Date:
+      return "datetime | None";
     case Kind::Text:
       return "str";
     case Kind::RecordArray:
@@ -28,24 +31,30 @@ std::string PythonType(const Type& type) {
   return std::string(type.name);
 }
 
-/// An enumeration may be given as a plain number too.
-std::string ArgumentType(const Type& type) {
-  return type.kind == Kind::Enumeration ? PythonType(type) + " | int" : PythonType(type);
+/// What may be given: an enumeration as a plain number too, a path as `os.PathLike`, and no object.
+std::string ArgumentType(const Type& type, bool isPath) {
+  if (type.kind == Kind::Enumeration) return PythonType(type) + " | int";
+  if (type.kind == Kind::Object) return PythonType(type) + " | None";
+  return isPath ? "str | PathLike[str]" : PythonType(type);
 }
 
-std::string Parameters(const MemberDescription& member, bool withDefaults) {
+/// Those with a default may be left out, or None.
+std::string Parameters(const MemberDescription& member) {
   std::string text = "self";
   for (const ArgumentDescription& argument : member.arguments) {
-    text += ", " + std::string(argument.name) + ": " + ArgumentType(argument.type);
-    if (withDefaults && argument.defaultValue) text += " = " + TextOf(*argument.defaultValue);
+    text += ", " + std::string(argument.name) + ": " +
+            ArgumentType(argument.type, argument.name == "FileNameToOpen");
+    if (argument.defaultValue) text += " | None = " + TextOf(*argument.defaultValue);
   }
   return text;
 }
 
 std::string Docstring(std::string_view indent, const MemberDescription& member) {
-  std::string text = std::string(indent) + "\"\"\"" + std::string(member.help);
-  if (!member.unit.empty() && member.unit != "path") text += ", " + std::string(member.unit);
-  return text + ".\"\"\"\n";
+  const std::string lineBreak = "\n" + std::string(indent);
+  const std::vector<std::string> lines = DocumentationOf(member);
+  std::string text = std::string(indent) + "\"\"\"" + lines.front();
+  for (std::size_t i = 1; i < lines.size(); ++i) text += (i == 1 ? "\n" : "") + lineBreak + lines[i];
+  return text + (lines.size() > 1 ? lineBreak : "") + "\"\"\"\n";
 }
 
 std::string MemberText(const MemberDescription& member) {
@@ -55,15 +64,15 @@ std::string MemberText(const MemberDescription& member) {
     std::string text =
         "    @property\n    def " + name + "(self) -> " + type + ":\n" + Docstring("        ", member);
     if (member.let)
-      text += "    @" + name + ".setter\n    def " + name + "(self, value: " + ArgumentType(member.type) +
-              ") -> None: ...\n";
+      text += "    @" + name + ".setter\n    def " + name +
+              "(self, value: " + ArgumentType(member.type, member.unit == "path") + ") -> None: ...\n";
     return text;
   }
-  std::string text = "    def " + name + "(" + Parameters(member, true) + ") -> " + type + ":\n" +
-                     Docstring("        ", member);
+  std::string text =
+      "    def " + name + "(" + Parameters(member) + ") -> " + type + ":\n" + Docstring("        ", member);
   if (member.let)
-    text += "    def set_" + name + "(" + Parameters(member, false) +
-            ", value: " + ArgumentType(member.type) + ") -> None: ...\n";
+    text += "    def set_" + name + "(" + Parameters(member) +
+            ", value: " + ArgumentType(member.type, false) + " = ...) -> None: ...\n";
   return text;
 }
 
@@ -83,40 +92,66 @@ std::string ClassText(const ClassDescription& description) {
 
 constexpr std::string_view Opening = R"(from collections.abc import Callable
 from dataclasses import dataclass
+from datetime import datetime
 from enum import IntEnum
-from typing import Any, Generic, ParamSpec
+from os import PathLike
+from typing import Any, Generic
+from typing_extensions import ParamSpec, Self
 
-P = ParamSpec("P")
+_P = ParamSpec("_P")
 
 class Error(RuntimeError):
     """An error of the library, with its number and text."""
     number: int
     def __init__(self, number: int, text: str) -> None: ...
+    def __reduce__(self) -> tuple[Any, ...]: ...
 
 class Connection:
     """Keeps a handler connected until it is disconnected or goes."""
-    def disconnect(self) -> None: ...
-    def __enter__(self) -> Connection: ...
+    def __init__(self, source: Object, event: str, handler: Callable[..., Any]) -> None: ...
+    def disconnect(self) -> None:
+        """Ends the connection; a second time does nothing."""
+    def __enter__(self) -> Self: ...
     def __exit__(self, *exception: Any) -> None: ...
 
-class Event(Generic[P]):
-    """An event; handlers run inside the call that raises it."""
-    def connect(self, handler: Callable[P, Any]) -> Connection: ...
+class Event(Generic[_P]):
+    """An event; handlers run inside the call that raises it.
 
-class Object:
+    In a `with` statement it gives a list, to which each raising adds the tuple of its arguments.
+    """
+    def __init__(self, source: Object, name: str) -> None: ...
+    def connect(self, handler: Callable[_P, Any]) -> Connection:
+        """Connects a callable and returns the connection; keep it, for the handler goes with it."""
+    def __enter__(self) -> list[tuple[Any, ...]]: ...
+    def __exit__(self, *exception: Any) -> None: ...
+
+class _ObjectType(type): ...
+
+class Object(metaclass=_ObjectType):
     """A counted reference to an object of the library; two are equal if they stand for the same object."""
-    def invoke(self, member: str, *arguments: Any, **named: Any) -> Any: ...
-    def assign(self, member: str, *arguments_and_value: Any, **named: Any) -> None: ...
+    def __init__(self, *arguments: Any) -> None: ...
+    def invoke(self, member: str, *arguments: Any, **named: Any) -> Any:
+        """Reads a property or calls a method by its name."""
+    def assign(self, member: str, *arguments_and_value: Any, **named: Any) -> None:
+        """Lets or sets a property by its name; the value comes last."""
+    def __eq__(self, other: object) -> bool: ...
+    def __hash__(self) -> int: ...
+    def __copy__(self) -> Self: ...
+    def __deepcopy__(self, memo: dict[int, Any]) -> Self: ...
 
-class FileDialog:
+class FileDialog(metaclass=_ObjectType):
     """Settings of a file dialog; a host sets FileName to the name chosen."""
+    def __init__(self, *args: Any, **kwargs: Any) -> None: ...
     CancelError: bool
     DefaultExt: str
     DialogTitle: str
     Filter: str
     Flags: int
     InitDir: str
-    FileName: str
+    @property
+    def FileName(self) -> str: ...
+    @FileName.setter
+    def FileName(self, name: str | PathLike[str]) -> None: ...
 
 class HostServices:
     """Callables of the host; None brings the headless default back."""
@@ -126,9 +161,9 @@ class HostServices:
     MousePointer: Callable[[], int] | None
     SetMousePointer: Callable[[int], None] | None
     DoEvents: Callable[[], None] | None
-    LibraryFolder: Callable[[], str] | None
-    SystemDirectory: Callable[[], str] | None
-    Now: Callable[[], float] | None
+    LibraryFolder: Callable[[], str | PathLike[str]] | None
+    SystemDirectory: Callable[[], str | PathLike[str]] | None
+    Now: Callable[[], float | datetime] | None
     SiteBrowse: Callable[[], str | None] | None
     SiteSelect: Callable[[], str | None] | None
     SiteEdit: Callable[[], bool] | None
@@ -139,21 +174,59 @@ __version__: str
 def register_built_in_engines() -> None:
     """Makes the built-in engines the components; call it before clsCurrentCase()."""
 
-def native_path(path: str) -> str:
+def native_path(path: str | PathLike[str]) -> str:
     """A stored path as the machine's own."""
+
+def resolve_file_name(name: str | PathLike[str]) -> str:
+    """The file that opening and saving a name use, as a full path. Errors: 75 for an empty name."""
+
+def case_file_exists(name: str | PathLike[str]) -> bool:
+    """True if opening that name would find a file, and saving to it would write over one."""
+
+def case_file_changed() -> bool:
+    """True if the file of the open case isn't as the last opening or save of it here left it; ask before saving."""
 
 def single_text(value: float) -> str:
     """Shortest decimal text of a 32-bit value, as most members give it: 0.1 and not 0.10000000149011612."""
 
 def double_text(value: float) -> str:
-    """Shortest decimal text of a 64-bit value, such as a date."""
+    """Shortest decimal text of a 64-bit value."""
 
 class PublishedEnum(IntEnum):
+    """An enumeration of the library. A member prints by its name and is found by its published text."""
     @property
     def text(self) -> str:
         """The published text of the member."""
+    @classmethod
+    def from_text(cls, text: str) -> Self:
+        """The member with a published text; letter case and outer blanks don't count. Errors: 5 if there is none."""
+    def __format__(self, form: str) -> str: ...
 
 )";
+
+/// The names that a star import brings, sorted.
+std::string AllText() {
+  std::vector<std::string> names{"Connection",
+                                 "Error",
+                                 "Event",
+                                 "FileDialog",
+                                 "HostServices",
+                                 "Object",
+                                 "PublishedEnum",
+                                 "case_file_changed",
+                                 "case_file_exists",
+                                 "double_text",
+                                 "host",
+                                 "native_path",
+                                 "register_built_in_engines",
+                                 "resolve_file_name",
+                                 "single_text"};
+  for (const EnumerationDescription& enumeration : Enumerations()) names.emplace_back(enumeration.name);
+  for (const RecordDescription& record : Records()) names.emplace_back(record.name);
+  for (const ClassDescription* description : Classes()) names.emplace_back(description->name);
+  std::sort(names.begin(), names.end());
+  return "__all__ = [\n    \"" + Join(names, "\",\n    \"") + "\",\n]\n";
+}
 
 }  // namespace
 
@@ -175,8 +248,7 @@ std::string PythonStub() {
     text += "\n";
   }
   for (const ClassDescription* description : Classes()) text += ClassText(*description);
-  text.pop_back();
-  return text;
+  return text + AllText();
 }
 
 }  // namespace orve::automation

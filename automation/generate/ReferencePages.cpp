@@ -60,11 +60,14 @@ std::string ReferenceClassPage(const ClassDescription& description) {
                      std::string(description.help) + ".\n\n";
   text +=
       description.create != nullptr ? "A host can create it.\n\n" : "Reached through `clsCurrentCase`.\n\n";
-  text += "| No. | Member | Access | Arguments | Type | Unit | Meaning |\n|---|---|---|---|---|---|---|\n";
+  text +=
+      "| No. | Member | Access | Arguments | Type | Unit | Meaning | Range | Errors | Clause |\n"
+      "|---|---|---|---|---|---|---|---|---|---|\n";
   for (const MemberDescription& member : description.members)
     text += "| " + std::to_string(member.number) + " | `" + std::string(member.name) + "` | " +
             AccessText(member) + " | " + ArgumentsText(member.arguments) + " | " + TypeText(member.type) +
-            " | " + std::string(member.unit) + " | " + std::string(member.help) + " |\n";
+            " | " + std::string(member.unit) + " | " + std::string(member.help) + " | " + RangeText(member) +
+            " | " + std::string(member.errors) + " | " + std::string(member.clause) + " |\n";
   if (description.events.empty()) return text;
   text += "\n## Events\n\n| No. | Event | Arguments | Raised |\n|---|---|---|---|\n";
   for (const EventDescription& event : description.events)
@@ -97,8 +100,14 @@ std::string ReferenceTypesPage() {
 std::string ReferenceIndex() {
   std::string text =
       "<!-- " + std::string(GeneratedNote) +
-      " -->\n# Reference\n\nThe object model, the same through every door. An optional argument "
-      "of -1 stands for the object's own\nselection of that name.\n\n";
+      " -->\n# Reference\n\nThe object model, the same through every binding. An optional argument "
+      "of -1 stands for the object's own\nselection of that name. Building areas are numbered 0 to 2, faces "
+      "0 to 3, "
+      "wind areas 0 to 5, wind sectors 0 to 11, and\nzones from `ZoneIndexFrom` to `ZoneIndexTo`.\n\nWhere "
+      "*Errors* is "
+      "empty a member raises none of its own. Bindings that convert their arguments add 13 for a wrong type "
+      "and\n6 for a "
+      "number that doesn't fit; every let may bring the error of a handler.\n\n";
   for (const ClassDescription* description : Classes())
     text += "- [" + std::string(description->name) + "](" + std::string(description->name) +
             ".md): " + std::string(description->help) + "\n";

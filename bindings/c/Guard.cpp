@@ -123,7 +123,6 @@ orve_error Failed() noexcept {
 }
 
 void* NewHandle(std::shared_ptr<void> held, const void* tag) {
-  if (!held) throw Error(ErrorNumber::ObjectNotSet, "Object is not set");
   return Handles().Add(std::move(held), tag);
 }
 
@@ -189,6 +188,7 @@ void orve_set_error_text(const char* text) {
 }
 
 orve_error orve_release(const void* handle) {
+  const orve::LibraryFloatState state;
   try {
     if (handle != nullptr && !Handles().Release(handle))
       throw orve::Error(orve::ErrorNumber::ObjectNotSet, "Object is not set: the handle is released");
@@ -203,6 +203,7 @@ void orve_free_text(char* text) {
 }
 
 void orve_register_built_in_engines(void) {
+  const orve::LibraryFloatState state;
   try {
     orve::RegisterBuiltInEngines();
     Succeeded();
@@ -212,6 +213,7 @@ void orve_register_built_in_engines(void) {
 }
 
 orve_error orve_app_version(char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     Give(result, orve::clsCommon().AppVersion());
@@ -221,7 +223,12 @@ orve_error orve_app_version(char** result) {
   }
 }
 
+int32_t orve_version(void) {
+  return ORVE_C_VERSION;
+}
+
 orve_error orve_native_path(const char* path, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     Give(result, orve::NativePath(TextArgument(path, "path")));
@@ -231,7 +238,41 @@ orve_error orve_native_path(const char* path, char** result) {
   }
 }
 
+orve_error orve_resolve_file_name(const char* name, char** result) {
+  const orve::LibraryFloatState state;
+  try {
+    RequireResult(result);
+    Give(result, orve::ResolveFileName(TextArgument(name, "name")));
+    return Succeeded();
+  } catch (...) {
+    return Failed();
+  }
+}
+
+orve_error orve_case_file_exists(const char* name, bool* result) {
+  const orve::LibraryFloatState state;
+  try {
+    RequireResult(result);
+    Give(result, orve::CaseFileExists(TextArgument(name, "name")));
+    return Succeeded();
+  } catch (...) {
+    return Failed();
+  }
+}
+
+orve_error orve_case_file_changed(bool* result) {
+  const orve::LibraryFloatState state;
+  try {
+    RequireResult(result);
+    Give(result, orve::CaseFileChanged());
+    return Succeeded();
+  } catch (...) {
+    return Failed();
+  }
+}
+
 orve_error orve_single_text(float value, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     Give(result, orve::ShortestText(value));
@@ -242,6 +283,7 @@ orve_error orve_single_text(float value, char** result) {
 }
 
 orve_error orve_double_text(double value, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     Give(result, orve::ShortestText(value));

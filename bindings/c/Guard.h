@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "../FloatState.h"
 #include "orve3_bs6399_2.h"
 #include "orve3_bs6399_2_c.h"
 
@@ -32,6 +33,11 @@ std::shared_ptr<void> Held(const void* handle, const void* tag);
 template <class Class>
 std::shared_ptr<Class> ObjectOf(const void* handle) {
   return std::static_pointer_cast<Class>(Held(handle, &TagOf<Class>));
+}
+/// An object property may be set to nothing, by a null handle.
+template <class Class>
+std::shared_ptr<Class> ObjectOrNothing(const void* handle) {
+  return handle == nullptr ? nullptr : ObjectOf<Class>(handle);
 }
 
 // Errors: 5 for a null pointer.
@@ -58,6 +64,13 @@ char* NewText(const std::string& text);
 void FreeText(const char*& text);
 /// A published text, which lies in the library; null for an empty one.
 const char* StaticText(std::string_view text);
+
+/// Calls a function of the host under the host's own floating-point state.
+template <class Function, class... Arguments>
+auto CallHost(Function function, Arguments... arguments) {
+  const HostFloatState state;
+  return function(arguments...);
+}
 
 /// Error 0 is none; any other that a callback returned goes on as an exception.
 void RaiseFromCallback(orve_error number);
@@ -86,9 +99,10 @@ void Give(std::int32_t* result, Enumeration value) {
   *result = static_cast<std::int32_t>(value);
 }
 
+/// A null handle for nothing.
 template <class Handle, class Class>
 void GiveObject(Handle* result, std::shared_ptr<Class> object) {
-  *result = static_cast<Handle>(NewHandle(std::move(object), &TagOf<Class>));
+  *result = object ? static_cast<Handle>(NewHandle(std::move(object), &TagOf<Class>)) : nullptr;
 }
 void GiveConnection(orve_connection* result, Connection connection);
 

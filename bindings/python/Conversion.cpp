@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "Dates.h"
+#include "common/DateText.h"
 #include "common/Error.h"
 #include "common/Host.h"
 
@@ -42,7 +44,9 @@ struct ToPythonVisitor {
     return type.kind == Kind::Enumeration ? EnumerationToPython(value, type.name) : py::int_(value);
   }
   py::object operator()(float value) const { return py::float_(value); }
-  py::object operator()(double value) const { return py::float_(value); }
+  py::object operator()(double value) const {
+    return type.kind == Kind::Date ? DateToPython(value) : py::float_(value);
+  }
   py::object operator()(const std::string& value) const {
     return TextToPython(isPath ? NativePath(value) : value);
   }
@@ -69,10 +73,30 @@ Value WholeFromPython(py::handle object) {
   return static_cast<std::int32_t>(value);
 }
 
-/// numpy's truth value, which is no Python bool.
-bool IsArrayBool(py::handle object) {
-  if (PyLong_Check(object.ptr()) || !py::hasattr(object, "dtype")) return false;
-  return py::str(object.attr("dtype").attr("kind")).equal(py::str("b"));
+[[noreturn]] void RaiseMismatch(const std::string& text) {
+  throw Error(ErrorNumber::TypeMismatch, "Type mismatch: " + text);
+}
+
+std::string TypeName(py::handle object) {
+  return Py_TYPE(object.ptr())->tp_name;
+}
+
+/// A scalar of an array library, or an array without dimensions, as Python's own number; nothing for other
+/// objects.
+py::object ArrayScalar(py::handle object) {
+  if (!py::hasattr(object, "dtype") || !py::hasattr(object, "shape")) return {};
+  const py::object shape = object.attr("shape");
+  if (!py::isinstance<py::tuple>(shape) || py::len(shape) != 0)
+    RaiseMismatch("one value is wanted, not an array (" + TypeName(object) + ")");
+  return object.attr("item")();
+}
+
+/// A member of one enumeration doesn't stand for one of another.
+void RefuseOtherEnumeration(py::handle object, const Type& type) {
+  if (type.kind != Kind::Enumeration) return;
+  for (const auto& [name, enumeration] : PythonTypes().enumerationTypes)
+    if (reinterpret_cast<PyObject*>(Py_TYPE(object.ptr())) == enumeration.ptr() && name != type.name)
+      RaiseMismatch("a member of " + std::string(type.name) + " is wanted, not one of " + std::string(name));
 }
 
 Value TextFromPython(py::handle object) {
@@ -85,7 +109,7 @@ Value TextFromPython(py::handle object) {
 Value RecordFromPython(py::handle object, const RecordDescription& description) {
   RecordValue record{&description, {}};
   for (const auto& field : description.fields)
-    record.fields.push_back(FromPython(object.attr(std::string(field.name).c_str())));
+    record.fields.push_back(FromPython(object.attr(std::string(field.name).c_str()), {field.type}));
   return record;
 }
 
@@ -106,30 +130,49 @@ py::object ToPython(const Value& value, const Type& type, bool isPath) {
   return std::visit(ToPythonVisitor{type, isPath}, value.Held());
 }
 
-Value FromPython(py::handle object) {
+std::string PathFromPython(py::handle object) {
+  const auto path = py::reinterpret_steal<py::object>(PyOS_FSPath(object.ptr()));
+  if (!path) throw py::error_already_set();
+  const py::object text =
+      py::isinstance<py::bytes>(path) ? py::module_::import("os").attr("fsdecode")(path) : path;
+  return *TextFromPython(text).As<std::string>();
+}
+
+Value FromPython(py::handle object, const Wanted& wanted) {
   PyObject* given = object.ptr();
   if (given == Py_None) return {};
   if (PyBool_Check(given)) return given == Py_True;
   if (PyFloat_Check(given)) return PyFloat_AS_DOUBLE(given);
   if (PyUnicode_Check(given)) return TextFromPython(object);
-  if (IsArrayBool(object)) return PyObject_IsTrue(given) == 1;
-  if (PyIndex_Check(given)) return WholeFromPython(object);
-  if (py::isinstance<Reference>(object)) return object.cast<const Reference&>().object;
+  RefuseOtherEnumeration(object, wanted.type);
+  if (PyLong_Check(given)) return WholeFromPython(object);
+  if (py::isinstance<Reference>(object)) {
+    const auto& reference = object.cast<const Reference&>().object;
+    if (!reference.object) throw Error(ErrorNumber::ObjectNotSet, "Object is not set");
+    return reference;
+  }
   for (const auto& [name, type] : PythonTypes().records)
     if (reinterpret_cast<PyObject*>(Py_TYPE(given)) == type.ptr())
       return RecordFromPython(object, *automation::FindRecord(name));
-  // What else knows to be a number, such as a numpy scalar.
+  if (IsDate(object)) {
+    if (wanted.type.kind == Kind::Date) return DateFromPython(object);
+    if (wanted.type.kind == Kind::Text) return DateText(DateFromPython(object));
+    RaiseMismatch("no date is wanted");
+  }
+  if (wanted.isPath && py::hasattr(object, "__fspath__")) return PathFromPython(object);
+  if (const py::object scalar = ArrayScalar(object)) return FromPython(scalar, wanted);
+  if (PyIndex_Check(given)) return WholeFromPython(object);
+  // What else knows to be a number, such as a Decimal.
   const PyNumberMethods* number = Py_TYPE(given)->tp_as_number;
   if (number != nullptr && number->nb_float != nullptr)
     return py::float_(py::reinterpret_borrow<py::object>(object)).cast<double>();
-  throw Error(ErrorNumber::TypeMismatch,
-              "Type mismatch: no member takes an object of type " + std::string(Py_TYPE(given)->tp_name));
+  RaiseMismatch("no member takes an object of type " + TypeName(object));
 }
 
-Value ResultOf(const py::object& result, Kind kind, const char* service) {
+Value ResultOf(const py::object& result, const Wanted& wanted, const char* service) {
   try {
     Value storage;
-    return automation::Coerce(FromPython(result), Type{kind, {}}, storage);
+    return automation::Coerce(FromPython(result, wanted), wanted.type, storage);
   } catch (const Error& error) {
     throw Error(error.Number(), std::string("result of ") + service + ": " + error.what());
   }

@@ -5,9 +5,11 @@
 
 namespace orve::python {
 
-/// Every member and event of a class by its Python name: a property for a get without arguments, a function
-/// for a get with arguments or a method, "set_" and the name for a let with arguments.
-py::dict MembersOf(const automation::ClassDescription& description, const py::object& base);
+/// The properties without arguments of a class, by their names.
+py::dict PropertiesOf(const automation::ClassDescription& description, const py::object& base);
+/// Its methods and properties with arguments: name, arguments (name, and default where there is one),
+/// documentation, the call, and the let or None.
+py::list FunctionsOf(const automation::ClassDescription& description, const py::object& base);
 
 /// Calls by name, for hosts that know a member's name only when they run.
 py::object InvokeByName(const Reference& self, const std::string& member, const py::args& arguments,

@@ -9,6 +9,7 @@
 #include "common/Host.h"
 #include "common/NumberText.h"
 #include "common/clsCommon.h"
+#include "storage/CaseFileQueries.h"
 #include "storage/clsCommonDialog.h"
 
 namespace orve::python {
@@ -48,15 +49,16 @@ py::list RecordTable() {
   return table;
 }
 
-/// Name, help, members and events (name and help) of every class.
+/// Name, help, whether it can be created, properties, functions and events (name and help) of every class.
 py::list ClassTable(const py::object& base) {
   py::list table;
   for (const auto* description : a::Classes()) {
     py::list events;
     for (const auto& event : description->events)
       events.append(py::make_tuple(Str(event.name), Str(event.help)));
-    table.append(py::make_tuple(Str(description->name), Str(description->help), MembersOf(*description, base),
-                                events));
+    table.append(py::make_tuple(Str(description->name), Str(description->help),
+                                description->create != nullptr, PropertiesOf(*description, base),
+                                FunctionsOf(*description, base), events));
   }
   return table;
 }
@@ -72,9 +74,11 @@ void TranslateError(std::exception_ptr raised) {
 
 void DefineRegistration(py::module_& module) {
   module.def("register_error", [](const py::object& type) { PythonTypes().error = type; });
-  module.def("register_enumeration", [](const std::string& name, const py::dict& members) {
-    PythonTypes().enumerations[a::FindEnumeration(name)->name] = members;
-  });
+  module.def("register_enumeration",
+             [](const std::string& name, const py::object& type, const py::dict& members) {
+               PythonTypes().enumerationTypes[a::FindEnumeration(name)->name] = type;
+               PythonTypes().enumerations[a::FindEnumeration(name)->name] = members;
+             });
   module.def("register_record", [](const std::string& name, const py::object& type) {
     PythonTypes().records[a::FindRecord(name)->name] = type;
   });
@@ -92,7 +96,9 @@ void DefineObjects(py::module_& module) {
       .def_readwrite("Filter", &clsCommonDialog::Filter)
       .def_readwrite("Flags", &clsCommonDialog::Flags)
       .def_readwrite("InitDir", &clsCommonDialog::InitDir)
-      .def_readwrite("FileName", &clsCommonDialog::FileName);
+      .def_property(
+          "FileName", [](const clsCommonDialog& self) { return TextToPython(self.FileName); },
+          [](clsCommonDialog& self, const py::object& name) { self.FileName = PathFromPython(name); });
   py::class_<Reference> object(module, "Object");
   object.def(py::init<const Reference&>())
       .def(py::init([](const std::string& className) { return Reference{a::CreateObject(className)}; }))
@@ -110,6 +116,8 @@ void DefineObjects(py::module_& module) {
            [](const py::object&) -> py::object {
              throw Error(ErrorNumber::TypeMismatch, "Type mismatch: an object of the library isn't a value");
            })
+      .def("_address",
+           [](const Reference& self) { return reinterpret_cast<std::uintptr_t>(self.object.object.get()); })
       .def("__hash__", [](const Reference& self) { return std::hash<void*>()(self.object.object.get()); });
 }
 
@@ -127,10 +135,15 @@ PYBIND11_MODULE(_orve, module) {
   module.def("set_service", &SetService);
   module.def("clear_services", &ClearServices);
   module.def("register_built_in_engines", &RegisterBuiltInEngines);
-  module.def("native_path", [](const std::string& path) { return TextToPython(NativePath(path)); });
+  module.def("native_path",
+             [](const py::object& path) { return TextToPython(NativePath(PathFromPython(path))); });
+  module.def("resolve_file_name", [](const py::object& name) {
+    return TextToPython(NativePath(ResolveFileName(PathFromPython(name))));
+  });
+  module.def("case_file_exists", [](const py::object& name) { return CaseFileExists(PathFromPython(name)); });
+  module.def("case_file_changed", [] { return CaseFileChanged(); });
   module.def("single_text", [](double value) { return ShortestText(static_cast<float>(value)); });
   module.def("double_text", [](double value) { return ShortestText(value); });
-  module.def("file_exists", [](const std::string& path) { return clsCommon().FileExists(path); });
   module.def("app_version", [] { return clsCommon().AppVersion(); });
 }
 

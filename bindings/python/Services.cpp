@@ -14,11 +14,11 @@ using automation::Kind;
 namespace {
 
 bool Truth(const py::object& result, const char* service) {
-  return *ResultOf(result, Kind::Bool, service).As<bool>();
+  return *ResultOf(result, {{Kind::Bool, {}}}, service).As<bool>();
 }
 
-std::string Text(const py::object& result, const char* service) {
-  return *ResultOf(result, Kind::Text, service).As<std::string>();
+std::string Text(const py::object& result, const char* service, bool isPath = false) {
+  return *ResultOf(result, {{Kind::Text, {}}, isPath}, service).As<std::string>();
 }
 
 /// A dialog works on a copy, so that Python may keep it, with paths as the machine's own.
@@ -45,7 +45,7 @@ std::function<bool(std::string&)> SiteDialog(const py::object& callable, const c
 }
 
 std::function<std::string()> TextService(const py::object& callable, const char* service) {
-  return [callable, service] { return Text(callable(), service); };
+  return [callable, service] { return Text(callable(), service, true); };
 }
 
 /// Assigns a service, or its headless default for None.
@@ -66,7 +66,7 @@ const std::map<std::string, Setter>& Setters() {
          Put(host.MsgBox, callable,
              [callable](const std::string& prompt, std::int32_t buttons, const std::string& title) {
                const py::object result = callable(TextToPython(prompt), buttons, TextToPython(title));
-               return *ResultOf(result, Kind::Int32, "MsgBox").As<std::int32_t>();
+               return *ResultOf(result, {{Kind::Int32, {}}}, "MsgBox").As<std::int32_t>();
              });
        }},
       {"OpenFileDialog",
@@ -80,7 +80,7 @@ const std::map<std::string, Setter>& Setters() {
       {"MousePointer",
        [](HostServices& host, const py::object& callable) {
          Put(host.MousePointer, callable, [callable] {
-           const auto pointer = ResultOf(callable(), Kind::Int16, "MousePointer");
+           const auto pointer = ResultOf(callable(), {{Kind::Int16, {}}}, "MousePointer");
            return static_cast<std::int16_t>(*pointer.As<std::int32_t>());
          });
        }},
@@ -102,8 +102,9 @@ const std::map<std::string, Setter>& Setters() {
        }},
       {"Now",
        [](HostServices& host, const py::object& callable) {
-         Put(host.Now, callable,
-             [callable] { return *ResultOf(callable(), Kind::Date, "Now").As<double>(); });
+         Put(host.Now, callable, [callable] {
+           return *ResultOf(callable(), {{Kind::Date, {}}}, "Now").As<double>();
+         });
        }},
       {"SiteBrowse",
        [](HostServices& host, const py::object& callable) {

@@ -115,9 +115,15 @@ TEST_F(DispatchTest, CallsThatDoNotFitTheMemberAreRefused) {
   EXPECT_EQ(NumberOf([&] { Get(wind, "DirectionFactor_Sd", {0, 0, 0}); }), 450);
   EXPECT_EQ(NumberOf([&] { Get(wind, "DirectionFactor_Sd", {0}, {{"WindArea", 0}}); }), 450);
   EXPECT_EQ(NumberOf([&] { Get(null, "Description"); }), 91);
-  EXPECT_EQ(NumberOf([&] { Let(root, "DynamicPressure", {}, ObjectReference{}); }), 91);
+  EXPECT_EQ(NumberOf([&] { Let(root, "DynamicPressure", {}, {}); }), 13);
   EXPECT_EQ(NumberOf([&] { Let(root, "DynamicPressure", {}, loads); }), 13);
   EXPECT_EQ(NumberOf([&] { CreateObject("clsDynamicPressure"); }), 429);
+}
+
+TEST_F(DispatchTest, AnObjectPropertyTakesNothing) {
+  const ObjectReference root = Root();
+  Let(root, "DynamicPressure", {}, ObjectReference{});
+  EXPECT_EQ(TextOf(Get(root, "DynamicPressure")), "Nothing");
 }
 
 TEST_F(DispatchTest, AnErrorNamesMemberAndArgument) {

@@ -1,4 +1,5 @@
 // The C binding under misuse: handles, pointers and callbacks that aren't what they should be.
+#include <cfenv>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -39,7 +40,7 @@ TEST_F(CBindingTest, NullAndForeignHandlesAreErrors) {
   EXPECT_EQ(orve_clsBuildingDimensions_get_Roof_Pitch(foreign, &value), 91);
   const auto wild = reinterpret_cast<orve_clsBuildingDimensions>(&value);
   EXPECT_EQ(orve_clsBuildingDimensions_let_Roof_Pitch(wild, 5), 91);
-  EXPECT_EQ(orve_clsCurrentCase_set_BuildingDimensions(root, nullptr), 91);
+  EXPECT_EQ(orve_clsCurrentCase_set_BuildingDimensions(root, wild), 91);
   EXPECT_EQ(value, 7);
   EXPECT_EQ(orve_release(&value), 91);
   EXPECT_EQ(orve_release(nullptr), 0);
@@ -114,6 +115,51 @@ TEST_F(CBindingTest, AHandlerMayReleaseWhatRuns) {
   EXPECT_EQ(orve_clsBuildingDimensions_let_Roof_Pitch(second, 6), 91);
   EXPECT_EQ(orve_clsBuildingDimensions_let_Roof_Pitch(building, 6), 0);
   EXPECT_EQ(calls, 1);
+}
+
+TEST_F(CBindingTest, AnObjectPropertyTakesAndGivesNothing) {
+  orve_clsBuildingDimensions held = building;
+  EXPECT_EQ(orve_clsCurrentCase_set_BuildingDimensions(root, nullptr), 0);
+  EXPECT_EQ(orve_clsCurrentCase_get_BuildingDimensions(root, &held), 0);
+  EXPECT_EQ(held, nullptr);
+  EXPECT_EQ(orve_clsCurrentCase_set_BuildingDimensions(root, building), 0);
+}
+
+TEST_F(CBindingTest, HeaderAndLibraryAreOfOneVersion) {
+  EXPECT_EQ(orve_version(), ORVE_C_VERSION);
+  EXPECT_EQ(orve_file_dialog_size(), sizeof(orve_file_dialog));
+}
+
+TEST_F(CBindingTest, AHostMayTrapAndRoundAsItLikes) {
+  orve_clsDynamicPressure site = nullptr;
+  ASSERT_EQ(orve_clsCurrentCase_get_DynamicPressure(root, &site), 0);
+  static int handlersRounding;
+  const auto note = [](bool, void*) -> orve_error {
+    handlersRounding = std::fegetround();
+    return 0;
+  };
+  orve_connection connection = nullptr;
+  ASSERT_EQ(orve_clsCurrentCase_connect_DirtyUpdated(root, note, nullptr, &connection), 0);
+  float nearest = 0, upward = 0;
+  std::fesetround(FE_UPWARD);
+#ifdef __GLIBC__
+  feenableexcept(FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW);
+#endif
+  const orve_error let = orve_clsBuildingDimensions_let_Roof_Height(building, 7);
+  const orve_error got = orve_clsDynamicPressure_get_TerrainAndBuildingFactor_Sb(site, 0, 0, &upward);
+  const int after = std::fegetround();
+#ifdef __GLIBC__
+  EXPECT_EQ(fegetexcept(), FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW);
+#endif
+  std::fesetenv(FE_DFL_ENV);
+  EXPECT_EQ(let, 0);
+  EXPECT_EQ(got, 0) << orve_error_text();
+  EXPECT_EQ(after, FE_UPWARD);
+  EXPECT_EQ(handlersRounding, FE_UPWARD);
+  EXPECT_EQ(orve_clsDynamicPressure_get_TerrainAndBuildingFactor_Sb(site, 0, 0, &nearest), 0);
+  EXPECT_EQ(upward, nearest);
+  orve_release(connection);
+  orve_release(site);
 }
 
 TEST_F(CBindingTest, NullTextsOfARecordAreEmpty) {

@@ -1,5 +1,6 @@
 """The door scripts through the Python module: attributes, calls and `set_` members."""
 import dataclasses
+import datetime
 import os
 import pathlib
 import sys
@@ -7,18 +8,21 @@ import tempfile
 
 import orve3_bs6399_2 as orve
 
+DATES = ("Created", "Modified")
 PATHS = ("Location", "PathToHelp", "PathToWindLoadCases", "breDataPath")
 
 
 def text_of(value, member=""):
     if value is None:
-        return ""
+        return "0" if member in DATES else ""
     if isinstance(value, bool):
         return str(value)
+    if isinstance(value, datetime.datetime):
+        return orve.double_text((value - datetime.datetime(1899, 12, 30)) / datetime.timedelta(days=1))
     if isinstance(value, int):
         return str(int(value))
     if isinstance(value, float):
-        return orve.double_text(value) if member in ("Created", "Modified") else orve.single_text(value)
+        return orve.single_text(value)
     if isinstance(value, list):
         return "[" + ", ".join(text_of(row) for row in value) + "]"
     if dataclasses.is_dataclass(value):

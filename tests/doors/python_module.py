@@ -1,18 +1,25 @@
 """The Python module where it isn't a plain run of the scripts: types, errors, events, services, life of objects."""
-import ast
 import copy
+import datetime
+import decimal
 import gc
 import inspect
 import os
 import pathlib
 import pickle
 import resource
+import subprocess
+import sys
 import tempfile
 import unittest
 import weakref
 
 import orve3_bs6399_2 as orve
 
+try:
+    import numpy
+except ImportError:
+    numpy = None
 
 class ModuleTest(unittest.TestCase):
     def setUp(self):
@@ -45,21 +52,92 @@ class ModuleTest(unittest.TestCase):
         self.assertEqual(orve.ParentTypes.None_, 0)
         building.RoofType = 77
         self.assertEqual(building.RoofType, 77)
+        self.assertIs(orve.RoofTypes.from_text("hipped ROOF"), orve.RoofTypes.Hipped_roof)
+        self.assertIs(orve.WindSectors(" 30 degrees"), orve.WindSectors.Degrees_30)
+        self.assertIn("Hip", self.raises(5, orve.RoofTypes.from_text, "Hip"))
+        self.assertEqual(f"{orve.Faces.Face_1} {orve.Faces.Face_2:d}", "Faces.Face_1 1")
+        self.assertIn("Faces", self.raises(13, setattr, building, "RoofType", orve.Faces.Face_1))
+        self.raises(13, self.case.DynamicPressure.FetchesToSea, orve.Faces.Face_1)
 
-    def test_the_stub_tells_of_every_member(self):
-        stub = ast.parse(pathlib.Path(orve.__file__).with_suffix(".pyi").read_text(encoding="utf-8"))
-        classes = {node.name: node for node in stub.body if isinstance(node, ast.ClassDef)}
-        described = [name for name in dir(orve) if name.startswith("cls")]
-        self.assertEqual(len(described), 8)
-        for name in described:
-            told = {node.name for node in classes[name].body if isinstance(node, ast.FunctionDef)}
-            self.assertEqual(told - {"__init__"}, {member for member in vars(getattr(orve, name)) if member[0] != "_"})
+    def test_numbers_of_every_kind_are_taken_but_nan(self):
+        building = self.case.BuildingDimensions
+        kinds = [decimal.Decimal("2.5")]
+        if numpy is not None:
+            kinds += [numpy.float32(2.5), numpy.float64(2.5), numpy.array(2.5)]
+            building.RoofType = numpy.int64(6)
+            building.ConsiderRoof = numpy.bool_(True)
+            self.assertIs(building.RoofType, orve.RoofTypes.Hipped_roof)
+            self.assertIn("Roof_Pitch", self.raises(13, setattr, building, "Roof_Pitch", numpy.array([2.5])))
+        for number in kinds:
+            building.Roof_Pitch = 0
+            building.Roof_Pitch = number
+            self.assertEqual(building.Roof_Pitch, 2.5)
+        self.assertIn("clsBuildingDimensions.Roof_Pitch", self.raises(5, setattr, building, "Roof_Pitch", float("nan")))
+        self.raises(5, self.case.DynamicPressure.set_FetchesToSea, 3, float("nan"))
+        self.assertEqual(building.Roof_Pitch, 2.5)
+
+    def test_dates_are_naive_datetimes_and_paths_may_be_paths(self):
+        moment = datetime.datetime(2026, 11, 24, 10, 21)
+        orve.host.Now = lambda: moment
+        orve.host.SaveFileDialog = lambda dialog: setattr(dialog, "FileName", pathlib.Path(self.path("a.wlc"))) or True
+        self.assertIsNone(self.case.Created)
+        self.case.SaveAs()
+        self.assertEqual((self.case.Created, self.case.WindCaseList.Modified(1)), (moment, moment))
+        orve.host.Now = lambda: 46350.5
+        self.case.Save()
+        self.assertEqual(self.case.Modified, datetime.datetime(2026, 11, 24, 12))
+        orve.host.Now = lambda: datetime.datetime.now(datetime.timezone.utc)
+        self.raises(13, self.case.Save)
+        self.case.Description = moment
+        self.assertEqual(self.case.Description, "2026-11-24 10:21:00")
+        self.case.Clear()
+        self.assertTrue(self.case.OpenExisting(pathlib.Path(self.path("a.wlc"))))
+        self.assertTrue(orve.case_file_exists(pathlib.Path(self.path("A.WLC"))))
+        self.assertEqual(orve.resolve_file_name(self.path("A.WLC")), os.path.realpath(self.path("a.wlc")))
+        self.assertFalse(orve.case_file_changed())
+        self.case.PathToWindLoadCases = pathlib.Path(self.folder.name)
+        self.raises(13, setattr, self.case, "Description", pathlib.Path("x"))
+
+    def test_an_object_shows_what_it_is(self):
+        self.case.Description = "Shed"
+        self.assertRegex(repr(self.case), r"^<clsCurrentCase at 0x[0-9a-f]+, Description='Shed', Location='', IsDirty=True>$")
+        self.assertIn("RoofType=", repr(self.case.BuildingDimensions))
+        self.assertIn("DirtyUpdated", repr(self.case.DirtyUpdated))
+        self.assertIn("ended", repr(self._ended()))
+        self.assertEqual(self.case.DynamicPressure.FetchesToSea.__qualname__, "clsDynamicPressure.FetchesToSea")
+
+    def _ended(self):
+        connection = self.case.DirtyUpdated.connect(print)
+        connection.disconnect()
+        return connection
+
+    def test_the_module_starts_without_a_home_and_as_a_program(self):
+        code = "import orve3_bs6399_2 as o; o.register_built_in_engines(); o.clsCurrentCase()"
+        environment = dict(os.environ, HOME="/dev/null", PYTHONPATH=os.pathsep.join(sys.path))
+        environment.pop("XDG_CONFIG_HOME", None)
+        for arguments in (["-c", code], ["-m", "orve3_bs6399_2"]):
+            done = subprocess.run([sys.executable, *arguments], env=environment, capture_output=True, text=True)
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertIn(orve.__version__, done.stdout)
+
+    def test_a_star_import_brings_the_public_names_alone(self):
+        names = {}
+        exec("from orve3_bs6399_2 import *", names)
+        self.assertEqual(set(names) - {"__builtins__"}, {name for name in dir(orve) if name[0] != "_"})
 
     def test_signatures_and_docstrings_come_from_the_description(self):
         wind = type(self.case.DynamicPressure)
-        self.assertEqual(str(inspect.signature(wind.DynamicPressure_q)), "(WindArea=-1, WindSector=-1)")
-        self.assertEqual(str(inspect.signature(wind.set_DynamicPressure_q)), "(WindArea, WindSector, value)")
-        self.assertEqual(wind.BasicWindSpeed.__doc__, "Basic wind speed Vb (Figure 6), m/s.")
+        self.assertEqual(str(inspect.signature(wind.DynamicPressure_q)), "(self, WindArea=-1, WindSector=-1)")
+        self.assertEqual(
+            str(inspect.signature(wind.set_DynamicPressure_q)), "(self, WindArea=-1, WindSector=-1, value=Ellipsis)"
+        )
+        self.assertEqual(
+            wind.BasicWindSpeed.__doc__,
+            "Basic wind speed Vb, m/s.\n\nRange: above 0; any number is stored.\nBS 6399-2: Figure 6.",
+        )
+        for name in orve.__all__:
+            for member, value in vars(getattr(orve, name)).items() if name.startswith("cls") else ():
+                self.assertTrue(member[0] == "_" or value.__doc__, member)
 
     def test_records_are_plain_values(self):
         pressures = orve.clsCantileverWindLoads()
@@ -91,6 +169,7 @@ class ModuleTest(unittest.TestCase):
         self.raises(6, setattr, self.case, "Parent_RoofPitch", 2**80)
         self.raises(13, setattr, self.case, "DynamicPressure", self.case.BuildingDimensions)
         self.raises(429, orve.clsDynamicPressure)
+        self.raises(449, wind.set_FetchesToSea)
         self.raises(438, wind.invoke, "Nothing")
         with self.assertRaises(AttributeError):
             wind.BasicWindspeed = 22
@@ -107,6 +186,10 @@ class ModuleTest(unittest.TestCase):
             self.case.Description = "Shed"
         self.case.Description = "Hall"
         self.assertEqual(told, [True])
+        with self.case.DirtyUpdated as raised:
+            self.case.Description = "Barn"
+        self.case.Description = "Byre"
+        self.assertEqual(raised, [(True,)])
 
         def fail(dirty):
             raise KeyError("mine")
@@ -143,18 +226,19 @@ class ModuleTest(unittest.TestCase):
         unborn = orve.clsCurrentCase.__new__(orve.clsCurrentCase)
         self.raises(91, getattr, unborn, "Description")
         self.raises(91, setattr, self.case, "BuildingDimensions", unborn)
+        self.assertIn("without an object", repr(unborn))
+        self.case.BuildingDimensions = None
+        self.assertIsNone(self.case.BuildingDimensions)
         self.raises(91, unborn.DirtyUpdated.connect, print)
 
-    def test_a_refused_opening_says_what_to_do(self):
+    def test_unsaved_changes_refuse_an_opening(self):
         orve.host.SaveFileDialog = lambda dialog: setattr(dialog, "FileName", self.path("shed.wlc")) or True
         self.case.Save()
         self.assertEqual(self.case.Location, self.path("shed.wlc"))
         self.case.Description = "changed"
-        text = self.raises(32755, self.case.OpenExisting, self.path("shed.wlc"))
-        self.assertIn("Clear()", text)
-        self.assertFalse(self.case.OpenExisting(self.path("none.wlc")))
-        orve.host.MsgBox = lambda prompt, buttons, title: 7
         self.assertFalse(self.case.OpenExisting(self.path("shed.wlc")))
+        self.assertEqual(self.case.Description, "changed")
+        self.assertFalse(self.case.OpenExisting(self.path("none.wlc")))
         orve.host.MsgBox = lambda prompt, buttons, title: 6
         self.assertTrue(self.case.OpenExisting(pathlib.Path(self.path("shed.wlc")).as_posix()))
 

@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsBuildingDimensions_get_OrientationUnknown(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -15,6 +16,7 @@ orve_error orve_clsBuildingDimensions_get_OrientationUnknown(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_let_OrientationUnknown(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->OrientationUnknown(value);
@@ -25,6 +27,7 @@ orve_error orve_clsBuildingDimensions_let_OrientationUnknown(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_get_Orientation(orve_clsBuildingDimensions object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -36,6 +39,7 @@ orve_error orve_clsBuildingDimensions_get_Orientation(orve_clsBuildingDimensions
 }
 
 orve_error orve_clsBuildingDimensions_let_Orientation(orve_clsBuildingDimensions object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Orientation(value);
@@ -46,6 +50,7 @@ orve_error orve_clsBuildingDimensions_let_Orientation(orve_clsBuildingDimensions
 }
 
 orve_error orve_clsBuildingDimensions_get_RoofType(orve_clsBuildingDimensions object, orve_RoofTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -57,6 +62,7 @@ orve_error orve_clsBuildingDimensions_get_RoofType(orve_clsBuildingDimensions ob
 }
 
 orve_error orve_clsBuildingDimensions_let_RoofType(orve_clsBuildingDimensions object, orve_RoofTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->RoofType(static_cast<orve::RoofTypes>(value));
@@ -67,6 +73,7 @@ orve_error orve_clsBuildingDimensions_let_RoofType(orve_clsBuildingDimensions ob
 }
 
 orve_error orve_clsBuildingDimensions_get_Face1And3_Length(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -78,6 +85,7 @@ orve_error orve_clsBuildingDimensions_get_Face1And3_Length(orve_clsBuildingDimen
 }
 
 orve_error orve_clsBuildingDimensions_let_Face1And3_Length(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Face1And3_Length(value);
@@ -88,6 +96,7 @@ orve_error orve_clsBuildingDimensions_let_Face1And3_Length(orve_clsBuildingDimen
 }
 
 orve_error orve_clsBuildingDimensions_get_Face2And4_Width(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -99,6 +108,7 @@ orve_error orve_clsBuildingDimensions_get_Face2And4_Width(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_let_Face2And4_Width(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Face2And4_Width(value);
@@ -109,6 +119,7 @@ orve_error orve_clsBuildingDimensions_let_Face2And4_Width(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_get_ConsiderRoof(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -120,6 +131,7 @@ orve_error orve_clsBuildingDimensions_get_ConsiderRoof(orve_clsBuildingDimension
 }
 
 orve_error orve_clsBuildingDimensions_let_ConsiderRoof(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->ConsiderRoof(value);
@@ -130,6 +142,7 @@ orve_error orve_clsBuildingDimensions_let_ConsiderRoof(orve_clsBuildingDimension
 }
 
 orve_error orve_clsBuildingDimensions_get_ConsiderWalls(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -141,6 +154,7 @@ orve_error orve_clsBuildingDimensions_get_ConsiderWalls(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_let_ConsiderWalls(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->ConsiderWalls(value);
@@ -151,6 +165,7 @@ orve_error orve_clsBuildingDimensions_let_ConsiderWalls(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_get_ConsiderCantilever(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -162,6 +177,7 @@ orve_error orve_clsBuildingDimensions_get_ConsiderCantilever(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_let_ConsiderCantilever(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->ConsiderCantilever(value);
@@ -172,6 +188,7 @@ orve_error orve_clsBuildingDimensions_let_ConsiderCantilever(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_get_ConsiderParapet(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -183,6 +200,7 @@ orve_error orve_clsBuildingDimensions_get_ConsiderParapet(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_let_ConsiderParapet(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->ConsiderParapet(value);
@@ -193,6 +211,7 @@ orve_error orve_clsBuildingDimensions_let_ConsiderParapet(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_Height(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -204,6 +223,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_Height(orve_clsBuildingDimensions
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_Height(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_Height(value);
@@ -214,6 +234,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_Height(orve_clsBuildingDimensions
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_Diagonal(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -225,6 +246,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_Diagonal(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_Diagonal(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_Diagonal(value);
@@ -235,6 +257,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_Diagonal(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_Diagonal_Default(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -246,6 +269,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_Diagonal_Default(orve_clsBuilding
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_ParapetHeight(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -257,6 +281,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_ParapetHeight(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_ParapetHeight(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_ParapetHeight(value);
@@ -267,6 +292,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_ParapetHeight(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_EavesRadius(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -278,6 +304,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_EavesRadius(orve_clsBuildingDimen
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_EavesRadius(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_EavesRadius(value);
@@ -288,6 +315,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_EavesRadius(orve_clsBuildingDimen
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_MansardSlope(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -299,6 +327,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_MansardSlope(orve_clsBuildingDime
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_MansardSlope(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_MansardSlope(value);
@@ -309,6 +338,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_MansardSlope(orve_clsBuildingDime
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_Pitch(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -320,6 +350,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_Pitch(orve_clsBuildingDimensions 
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_Pitch(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_Pitch(value);
@@ -330,6 +361,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_Pitch(orve_clsBuildingDimensions 
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_RiseHeight(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -341,6 +373,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_RiseHeight(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_RiseHeight(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_RiseHeight(value);
@@ -351,6 +384,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_RiseHeight(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_get_Roof_FrameType(orve_clsBuildingDimensions object, orve_FrameTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -362,6 +396,7 @@ orve_error orve_clsBuildingDimensions_get_Roof_FrameType(orve_clsBuildingDimensi
 }
 
 orve_error orve_clsBuildingDimensions_let_Roof_FrameType(orve_clsBuildingDimensions object, orve_FrameTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Roof_FrameType(static_cast<orve::FrameTypes>(value));
@@ -372,6 +407,7 @@ orve_error orve_clsBuildingDimensions_let_Roof_FrameType(orve_clsBuildingDimensi
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_SideHeight(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -383,6 +419,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_SideHeight(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_SideHeight(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_SideHeight(value);
@@ -393,6 +430,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_SideHeight(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_SideDiagonal(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -404,6 +442,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_SideDiagonal(orve_clsBuildingDime
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_SideDiagonal(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_SideDiagonal(value);
@@ -414,6 +453,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_SideDiagonal(orve_clsBuildingDime
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_SideDiagonal_Default(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -425,6 +465,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_SideDiagonal_Default(orve_clsBuil
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GableHeight(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -436,6 +477,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GableHeight(orve_clsBuildingDimen
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GableHeight(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GableHeight(value);
@@ -446,6 +488,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GableHeight(orve_clsBuildingDimen
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GableDiagonal(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -457,6 +500,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GableDiagonal(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GableDiagonal(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GableDiagonal(value);
@@ -467,6 +511,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GableDiagonal(orve_clsBuildingDim
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GableDiagonal_Default(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -478,6 +523,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GableDiagonal_Default(orve_clsBui
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GableFaces(orve_clsBuildingDimensions object, orve_GableFaces* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -489,6 +535,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GableFaces(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GableFaces(orve_clsBuildingDimensions object, orve_GableFaces value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GableFaces(static_cast<orve::GableFaces>(value));
@@ -499,6 +546,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GableFaces(orve_clsBuildingDimens
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GapFace1(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -510,6 +558,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GapFace1(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GapFace1(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GapFace1(value);
@@ -520,6 +569,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GapFace1(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GapFace2(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -531,6 +581,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GapFace2(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GapFace2(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GapFace2(value);
@@ -541,6 +592,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GapFace2(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GapFace3(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -552,6 +604,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GapFace3(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GapFace3(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GapFace3(value);
@@ -562,6 +615,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GapFace3(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_get_Wall_GapFace4(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -573,6 +627,7 @@ orve_error orve_clsBuildingDimensions_get_Wall_GapFace4(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_let_Wall_GapFace4(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Wall_GapFace4(value);
@@ -583,6 +638,7 @@ orve_error orve_clsBuildingDimensions_let_Wall_GapFace4(orve_clsBuildingDimensio
 }
 
 orve_error orve_clsBuildingDimensions_get_CantileverFace1Or2_Length(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -594,6 +650,7 @@ orve_error orve_clsBuildingDimensions_get_CantileverFace1Or2_Length(orve_clsBuil
 }
 
 orve_error orve_clsBuildingDimensions_let_CantileverFace1Or2_Length(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->CantileverFace1Or2_Length(value);
@@ -604,6 +661,7 @@ orve_error orve_clsBuildingDimensions_let_CantileverFace1Or2_Length(orve_clsBuil
 }
 
 orve_error orve_clsBuildingDimensions_get_CantileverFace3Or4_Length(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -615,6 +673,7 @@ orve_error orve_clsBuildingDimensions_get_CantileverFace3Or4_Length(orve_clsBuil
 }
 
 orve_error orve_clsBuildingDimensions_let_CantileverFace3Or4_Length(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->CantileverFace3Or4_Length(value);
@@ -625,6 +684,7 @@ orve_error orve_clsBuildingDimensions_let_CantileverFace3Or4_Length(orve_clsBuil
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_Height(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -636,6 +696,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_Height(orve_clsBuildingDimensi
 }
 
 orve_error orve_clsBuildingDimensions_let_Parapet_Height(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Parapet_Height(value);
@@ -646,6 +707,7 @@ orve_error orve_clsBuildingDimensions_let_Parapet_Height(orve_clsBuildingDimensi
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_HeightFromFFL_m(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -657,6 +719,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_HeightFromFFL_m(orve_clsBuildi
 }
 
 orve_error orve_clsBuildingDimensions_let_Parapet_HeightFromFFL_m(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Parapet_HeightFromFFL_m(value);
@@ -667,6 +730,7 @@ orve_error orve_clsBuildingDimensions_let_Parapet_HeightFromFFL_m(orve_clsBuildi
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_SideDiagonal(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -678,6 +742,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_SideDiagonal(orve_clsBuildingD
 }
 
 orve_error orve_clsBuildingDimensions_let_Parapet_SideDiagonal(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Parapet_SideDiagonal(value);
@@ -688,6 +753,7 @@ orve_error orve_clsBuildingDimensions_let_Parapet_SideDiagonal(orve_clsBuildingD
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_SideDiagonal_Default(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -699,6 +765,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_SideDiagonal_Default(orve_clsB
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_GableDiagonal(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -710,6 +777,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_GableDiagonal(orve_clsBuilding
 }
 
 orve_error orve_clsBuildingDimensions_let_Parapet_GableDiagonal(orve_clsBuildingDimensions object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Parapet_GableDiagonal(value);
@@ -720,6 +788,7 @@ orve_error orve_clsBuildingDimensions_let_Parapet_GableDiagonal(orve_clsBuilding
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_GableDiagonal_Default(orve_clsBuildingDimensions object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -731,6 +800,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_GableDiagonal_Default(orve_cls
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_SideReturnCorner(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -742,6 +812,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_SideReturnCorner(orve_clsBuild
 }
 
 orve_error orve_clsBuildingDimensions_let_Parapet_SideReturnCorner(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Parapet_SideReturnCorner(value);
@@ -752,6 +823,7 @@ orve_error orve_clsBuildingDimensions_let_Parapet_SideReturnCorner(orve_clsBuild
 }
 
 orve_error orve_clsBuildingDimensions_get_Parapet_GableReturnCorner(orve_clsBuildingDimensions object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
@@ -763,6 +835,7 @@ orve_error orve_clsBuildingDimensions_get_Parapet_GableReturnCorner(orve_clsBuil
 }
 
 orve_error orve_clsBuildingDimensions_let_Parapet_GableReturnCorner(orve_clsBuildingDimensions object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsBuildingDimensions>(object);
     self->Parapet_GableReturnCorner(value);

@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsCantileverWindLoads_create(orve_clsCantileverWindLoads* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     GiveObject(result, Create<orve::clsCantileverWindLoads>());
@@ -14,6 +15,7 @@ orve_error orve_clsCantileverWindLoads_create(orve_clsCantileverWindLoads* resul
 }
 
 orve_error orve_clsCantileverWindLoads_get_ExternalPressures(orve_clsCantileverWindLoads object, orve_ExternalPressure* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCantileverWindLoads>(object);
@@ -25,6 +27,7 @@ orve_error orve_clsCantileverWindLoads_get_ExternalPressures(orve_clsCantileverW
 }
 
 orve_error orve_clsCantileverWindLoads_let_ExternalPressures(orve_clsCantileverWindLoads object, const orve_ExternalPressure* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCantileverWindLoads>(object);
     self->ExternalPressures(FromC(RecordArgument(value, "value")));

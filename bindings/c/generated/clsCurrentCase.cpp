@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsCurrentCase_create(orve_clsCurrentCase* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     GiveObject(result, Create<orve::clsCurrentCase>());
@@ -14,6 +15,7 @@ orve_error orve_clsCurrentCase_create(orve_clsCurrentCase* result) {
 }
 
 orve_error orve_clsCurrentCase_get_BreCp_Dirty(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -25,6 +27,7 @@ orve_error orve_clsCurrentCase_get_BreCp_Dirty(orve_clsCurrentCase object, bool*
 }
 
 orve_error orve_clsCurrentCase_let_BreCp_Dirty(orve_clsCurrentCase object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->BreCp_Dirty(value);
@@ -35,6 +38,7 @@ orve_error orve_clsCurrentCase_let_BreCp_Dirty(orve_clsCurrentCase object, bool 
 }
 
 orve_error orve_clsCurrentCase_get_BreOSDatabase(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -46,6 +50,7 @@ orve_error orve_clsCurrentCase_get_BreOSDatabase(orve_clsCurrentCase object, boo
 }
 
 orve_error orve_clsCurrentCase_let_BreOSDatabase(orve_clsCurrentCase object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->BreOSDatabase(value);
@@ -56,6 +61,7 @@ orve_error orve_clsCurrentCase_let_BreOSDatabase(orve_clsCurrentCase object, boo
 }
 
 orve_error orve_clsCurrentCase_get_BreVe_Dirty(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -67,6 +73,7 @@ orve_error orve_clsCurrentCase_get_BreVe_Dirty(orve_clsCurrentCase object, bool*
 }
 
 orve_error orve_clsCurrentCase_let_BreVe_Dirty(orve_clsCurrentCase object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->BreVe_Dirty(value);
@@ -77,6 +84,7 @@ orve_error orve_clsCurrentCase_let_BreVe_Dirty(orve_clsCurrentCase object, bool 
 }
 
 orve_error orve_clsCurrentCase_get_Parent_Type(orve_clsCurrentCase object, orve_ParentTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -88,6 +96,7 @@ orve_error orve_clsCurrentCase_get_Parent_Type(orve_clsCurrentCase object, orve_
 }
 
 orve_error orve_clsCurrentCase_let_Parent_Type(orve_clsCurrentCase object, orve_ParentTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_Type(static_cast<orve::ParentTypes>(value));
@@ -98,6 +107,7 @@ orve_error orve_clsCurrentCase_let_Parent_Type(orve_clsCurrentCase object, orve_
 }
 
 orve_error orve_clsCurrentCase_get_Parent_Span(orve_clsCurrentCase object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -109,6 +119,7 @@ orve_error orve_clsCurrentCase_get_Parent_Span(orve_clsCurrentCase object, float
 }
 
 orve_error orve_clsCurrentCase_let_Parent_Span(orve_clsCurrentCase object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_Span(value);
@@ -119,6 +130,7 @@ orve_error orve_clsCurrentCase_let_Parent_Span(orve_clsCurrentCase object, float
 }
 
 orve_error orve_clsCurrentCase_get_Parent_Centres(orve_clsCurrentCase object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -130,6 +142,7 @@ orve_error orve_clsCurrentCase_get_Parent_Centres(orve_clsCurrentCase object, fl
 }
 
 orve_error orve_clsCurrentCase_let_Parent_Centres(orve_clsCurrentCase object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_Centres(value);
@@ -140,6 +153,7 @@ orve_error orve_clsCurrentCase_let_Parent_Centres(orve_clsCurrentCase object, fl
 }
 
 orve_error orve_clsCurrentCase_get_Parent_RoofPitch(orve_clsCurrentCase object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -151,6 +165,7 @@ orve_error orve_clsCurrentCase_get_Parent_RoofPitch(orve_clsCurrentCase object, 
 }
 
 orve_error orve_clsCurrentCase_let_Parent_RoofPitch(orve_clsCurrentCase object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_RoofPitch(value);
@@ -161,6 +176,7 @@ orve_error orve_clsCurrentCase_let_Parent_RoofPitch(orve_clsCurrentCase object, 
 }
 
 orve_error orve_clsCurrentCase_get_Parent_HeightOfPost_m(orve_clsCurrentCase object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -172,6 +188,7 @@ orve_error orve_clsCurrentCase_get_Parent_HeightOfPost_m(orve_clsCurrentCase obj
 }
 
 orve_error orve_clsCurrentCase_let_Parent_HeightOfPost_m(orve_clsCurrentCase object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_HeightOfPost_m(value);
@@ -182,6 +199,7 @@ orve_error orve_clsCurrentCase_let_Parent_HeightOfPost_m(orve_clsCurrentCase obj
 }
 
 orve_error orve_clsCurrentCase_get_Parent_HeightToTopOfPostFromFFL_m(orve_clsCurrentCase object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -193,6 +211,7 @@ orve_error orve_clsCurrentCase_get_Parent_HeightToTopOfPostFromFFL_m(orve_clsCur
 }
 
 orve_error orve_clsCurrentCase_let_Parent_HeightToTopOfPostFromFFL_m(orve_clsCurrentCase object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_HeightToTopOfPostFromFFL_m(value);
@@ -203,6 +222,7 @@ orve_error orve_clsCurrentCase_let_Parent_HeightToTopOfPostFromFFL_m(orve_clsCur
 }
 
 orve_error orve_clsCurrentCase_get_Parent_BaySize_m(orve_clsCurrentCase object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -214,6 +234,7 @@ orve_error orve_clsCurrentCase_get_Parent_BaySize_m(orve_clsCurrentCase object, 
 }
 
 orve_error orve_clsCurrentCase_let_Parent_BaySize_m(orve_clsCurrentCase object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Parent_BaySize_m(value);
@@ -224,6 +245,7 @@ orve_error orve_clsCurrentCase_let_Parent_BaySize_m(orve_clsCurrentCase object, 
 }
 
 orve_error orve_clsCurrentCase_get_PathToHelp(orve_clsCurrentCase object, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -235,6 +257,7 @@ orve_error orve_clsCurrentCase_get_PathToHelp(orve_clsCurrentCase object, char**
 }
 
 orve_error orve_clsCurrentCase_let_PathToHelp(orve_clsCurrentCase object, const char* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->PathToHelp(TextArgument(value, "value"));
@@ -245,6 +268,7 @@ orve_error orve_clsCurrentCase_let_PathToHelp(orve_clsCurrentCase object, const 
 }
 
 orve_error orve_clsCurrentCase_get_PathToWindLoadCases(orve_clsCurrentCase object, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -256,6 +280,7 @@ orve_error orve_clsCurrentCase_get_PathToWindLoadCases(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_let_PathToWindLoadCases(orve_clsCurrentCase object, const char* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->PathToWindLoadCases(TextArgument(value, "value"));
@@ -266,6 +291,7 @@ orve_error orve_clsCurrentCase_let_PathToWindLoadCases(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_get_IsDirty(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -277,6 +303,7 @@ orve_error orve_clsCurrentCase_get_IsDirty(orve_clsCurrentCase object, bool* res
 }
 
 orve_error orve_clsCurrentCase_let_IsDirty(orve_clsCurrentCase object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->IsDirty(value);
@@ -287,6 +314,7 @@ orve_error orve_clsCurrentCase_let_IsDirty(orve_clsCurrentCase object, bool valu
 }
 
 orve_error orve_clsCurrentCase_get_Location(orve_clsCurrentCase object, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -298,6 +326,7 @@ orve_error orve_clsCurrentCase_get_Location(orve_clsCurrentCase object, char** r
 }
 
 orve_error orve_clsCurrentCase_let_Location(orve_clsCurrentCase object, const char* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Location(TextArgument(value, "value"));
@@ -308,6 +337,7 @@ orve_error orve_clsCurrentCase_let_Location(orve_clsCurrentCase object, const ch
 }
 
 orve_error orve_clsCurrentCase_get_LocationCorrect(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -319,6 +349,7 @@ orve_error orve_clsCurrentCase_get_LocationCorrect(orve_clsCurrentCase object, b
 }
 
 orve_error orve_clsCurrentCase_get_Description(orve_clsCurrentCase object, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -330,6 +361,7 @@ orve_error orve_clsCurrentCase_get_Description(orve_clsCurrentCase object, char*
 }
 
 orve_error orve_clsCurrentCase_let_Description(orve_clsCurrentCase object, const char* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Description(TextArgument(value, "value"));
@@ -340,6 +372,7 @@ orve_error orve_clsCurrentCase_let_Description(orve_clsCurrentCase object, const
 }
 
 orve_error orve_clsCurrentCase_get_Created(orve_clsCurrentCase object, double* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -351,6 +384,7 @@ orve_error orve_clsCurrentCase_get_Created(orve_clsCurrentCase object, double* r
 }
 
 orve_error orve_clsCurrentCase_get_Modified(orve_clsCurrentCase object, double* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -362,6 +396,7 @@ orve_error orve_clsCurrentCase_get_Modified(orve_clsCurrentCase object, double* 
 }
 
 orve_error orve_clsCurrentCase_get_breDataPath(orve_clsCurrentCase object, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -373,6 +408,7 @@ orve_error orve_clsCurrentCase_get_breDataPath(orve_clsCurrentCase object, char*
 }
 
 orve_error orve_clsCurrentCase_let_breDataPath(orve_clsCurrentCase object, const char* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->breDataPath(TextArgument(value, "value"));
@@ -383,6 +419,7 @@ orve_error orve_clsCurrentCase_let_breDataPath(orve_clsCurrentCase object, const
 }
 
 orve_error orve_clsCurrentCase_get_BuildingDimensions(orve_clsCurrentCase object, orve_clsBuildingDimensions* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -394,9 +431,10 @@ orve_error orve_clsCurrentCase_get_BuildingDimensions(orve_clsCurrentCase object
 }
 
 orve_error orve_clsCurrentCase_set_BuildingDimensions(orve_clsCurrentCase object, orve_clsBuildingDimensions value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->BuildingDimensions(ObjectOf<orve::clsBuildingDimensions>(value));
+    self->BuildingDimensions(ObjectOrNothing<orve::clsBuildingDimensions>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -404,6 +442,7 @@ orve_error orve_clsCurrentCase_set_BuildingDimensions(orve_clsCurrentCase object
 }
 
 orve_error orve_clsCurrentCase_get_DynamicPressure(orve_clsCurrentCase object, orve_clsDynamicPressure* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -415,9 +454,10 @@ orve_error orve_clsCurrentCase_get_DynamicPressure(orve_clsCurrentCase object, o
 }
 
 orve_error orve_clsCurrentCase_set_DynamicPressure(orve_clsCurrentCase object, orve_clsDynamicPressure value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->DynamicPressure(ObjectOf<orve::clsDynamicPressure>(value));
+    self->DynamicPressure(ObjectOrNothing<orve::clsDynamicPressure>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -425,6 +465,7 @@ orve_error orve_clsCurrentCase_set_DynamicPressure(orve_clsCurrentCase object, o
 }
 
 orve_error orve_clsCurrentCase_get_ExternalCoefficients(orve_clsCurrentCase object, orve_clsExternalCoefficients* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -436,9 +477,10 @@ orve_error orve_clsCurrentCase_get_ExternalCoefficients(orve_clsCurrentCase obje
 }
 
 orve_error orve_clsCurrentCase_set_ExternalCoefficients(orve_clsCurrentCase object, orve_clsExternalCoefficients value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->ExternalCoefficients(ObjectOf<orve::clsExternalCoefficients>(value));
+    self->ExternalCoefficients(ObjectOrNothing<orve::clsExternalCoefficients>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -446,6 +488,7 @@ orve_error orve_clsCurrentCase_set_ExternalCoefficients(orve_clsCurrentCase obje
 }
 
 orve_error orve_clsCurrentCase_get_InternalCoefficients(orve_clsCurrentCase object, orve_clsInternalCoefficients* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -457,9 +500,10 @@ orve_error orve_clsCurrentCase_get_InternalCoefficients(orve_clsCurrentCase obje
 }
 
 orve_error orve_clsCurrentCase_set_InternalCoefficients(orve_clsCurrentCase object, orve_clsInternalCoefficients value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->InternalCoefficients(ObjectOf<orve::clsInternalCoefficients>(value));
+    self->InternalCoefficients(ObjectOrNothing<orve::clsInternalCoefficients>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -467,6 +511,7 @@ orve_error orve_clsCurrentCase_set_InternalCoefficients(orve_clsCurrentCase obje
 }
 
 orve_error orve_clsCurrentCase_get_OverallAppliedLoads(orve_clsCurrentCase object, orve_clsOverallAppliedLoads* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -478,9 +523,10 @@ orve_error orve_clsCurrentCase_get_OverallAppliedLoads(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_set_OverallAppliedLoads(orve_clsCurrentCase object, orve_clsOverallAppliedLoads value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->OverallAppliedLoads(ObjectOf<orve::clsOverallAppliedLoads>(value));
+    self->OverallAppliedLoads(ObjectOrNothing<orve::clsOverallAppliedLoads>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -488,6 +534,7 @@ orve_error orve_clsCurrentCase_set_OverallAppliedLoads(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_get_WindCaseList(orve_clsCurrentCase object, orve_clsWindCaseList* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -499,9 +546,10 @@ orve_error orve_clsCurrentCase_get_WindCaseList(orve_clsCurrentCase object, orve
 }
 
 orve_error orve_clsCurrentCase_set_WindCaseList(orve_clsCurrentCase object, orve_clsWindCaseList value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->WindCaseList(ObjectOf<orve::clsWindCaseList>(value));
+    self->WindCaseList(ObjectOrNothing<orve::clsWindCaseList>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -509,6 +557,7 @@ orve_error orve_clsCurrentCase_set_WindCaseList(orve_clsCurrentCase object, orve
 }
 
 orve_error orve_clsCurrentCase_get_CantileverWindloads(orve_clsCurrentCase object, orve_clsCantileverWindLoads* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -520,9 +569,10 @@ orve_error orve_clsCurrentCase_get_CantileverWindloads(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_set_CantileverWindloads(orve_clsCurrentCase object, orve_clsCantileverWindLoads value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    self->CantileverWindloads(ObjectOf<orve::clsCantileverWindLoads>(value));
+    self->CantileverWindloads(ObjectOrNothing<orve::clsCantileverWindLoads>(value));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -530,6 +580,7 @@ orve_error orve_clsCurrentCase_set_CantileverWindloads(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_Initialize_BreApps(orve_clsCurrentCase object) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Initialize_BreApps();
@@ -540,6 +591,7 @@ orve_error orve_clsCurrentCase_Initialize_BreApps(orve_clsCurrentCase object) {
 }
 
 orve_error orve_clsCurrentCase_Clear(orve_clsCurrentCase object) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Clear();
@@ -550,6 +602,7 @@ orve_error orve_clsCurrentCase_Clear(orve_clsCurrentCase object) {
 }
 
 orve_error orve_clsCurrentCase_Browse(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -561,6 +614,7 @@ orve_error orve_clsCurrentCase_Browse(orve_clsCurrentCase object, bool* result) 
 }
 
 orve_error orve_clsCurrentCase_OpenExisting(orve_clsCurrentCase object, const char* FileNameToOpen, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -572,6 +626,7 @@ orve_error orve_clsCurrentCase_OpenExisting(orve_clsCurrentCase object, const ch
 }
 
 orve_error orve_clsCurrentCase_Save(orve_clsCurrentCase object) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->Save();
@@ -582,6 +637,7 @@ orve_error orve_clsCurrentCase_Save(orve_clsCurrentCase object) {
 }
 
 orve_error orve_clsCurrentCase_SaveAs(orve_clsCurrentCase object) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
     self->SaveAs();
@@ -592,6 +648,7 @@ orve_error orve_clsCurrentCase_SaveAs(orve_clsCurrentCase object) {
 }
 
 orve_error orve_clsCurrentCase_get_OldBreVeVersion(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -603,6 +660,7 @@ orve_error orve_clsCurrentCase_get_OldBreVeVersion(orve_clsCurrentCase object, b
 }
 
 orve_error orve_clsCurrentCase_get_OldBreCpVersion(orve_clsCurrentCase object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
@@ -614,11 +672,12 @@ orve_error orve_clsCurrentCase_get_OldBreCpVersion(orve_clsCurrentCase object, b
 }
 
 orve_error orve_clsCurrentCase_connect_DirtyUpdated(orve_clsCurrentCase object, orve_clsCurrentCase_DirtyUpdated handler, void* user, orve_connection* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     RequireCallback(handler != nullptr);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    GiveConnection(result, self->DirtyUpdated.Connect([handler, user](bool NewValue) { RaiseFromCallback(handler(NewValue, user)); }));
+    GiveConnection(result, self->DirtyUpdated.Connect([handler, user](bool NewValue) { RaiseFromCallback(CallHost(handler, NewValue, user)); }));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -626,11 +685,12 @@ orve_error orve_clsCurrentCase_connect_DirtyUpdated(orve_clsCurrentCase object, 
 }
 
 orve_error orve_clsCurrentCase_connect_LocationUpdated(orve_clsCurrentCase object, orve_clsCurrentCase_LocationUpdated handler, void* user, orve_connection* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     RequireCallback(handler != nullptr);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    GiveConnection(result, self->LocationUpdated.Connect([handler, user](const std::string& NewValue) { RaiseFromCallback(handler(NewValue.c_str(), user)); }));
+    GiveConnection(result, self->LocationUpdated.Connect([handler, user](const std::string& NewValue) { RaiseFromCallback(CallHost(handler, NewValue.c_str(), user)); }));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -638,11 +698,12 @@ orve_error orve_clsCurrentCase_connect_LocationUpdated(orve_clsCurrentCase objec
 }
 
 orve_error orve_clsCurrentCase_connect_WindCaseListUpdated(orve_clsCurrentCase object, orve_clsCurrentCase_WindCaseListUpdated handler, void* user, orve_connection* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     RequireCallback(handler != nullptr);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    GiveConnection(result, self->WindCaseListUpdated.Connect([handler, user]() { RaiseFromCallback(handler(user)); }));
+    GiveConnection(result, self->WindCaseListUpdated.Connect([handler, user]() { RaiseFromCallback(CallHost(handler, user)); }));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -650,11 +711,12 @@ orve_error orve_clsCurrentCase_connect_WindCaseListUpdated(orve_clsCurrentCase o
 }
 
 orve_error orve_clsCurrentCase_connect_WindCaseOpened(orve_clsCurrentCase object, orve_clsCurrentCase_WindCaseOpened handler, void* user, orve_connection* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     RequireCallback(handler != nullptr);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    GiveConnection(result, self->WindCaseOpened.Connect([handler, user](const std::string& FileName) { RaiseFromCallback(handler(FileName.c_str(), user)); }));
+    GiveConnection(result, self->WindCaseOpened.Connect([handler, user](const std::string& FileName) { RaiseFromCallback(CallHost(handler, FileName.c_str(), user)); }));
     return Succeeded();
   } catch (...) {
     return Failed();
@@ -662,11 +724,12 @@ orve_error orve_clsCurrentCase_connect_WindCaseOpened(orve_clsCurrentCase object
 }
 
 orve_error orve_clsCurrentCase_connect_WindCaseSaved(orve_clsCurrentCase object, orve_clsCurrentCase_WindCaseSaved handler, void* user, orve_connection* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     RequireCallback(handler != nullptr);
     const auto self = ObjectOf<orve::clsCurrentCase>(object);
-    GiveConnection(result, self->WindCaseSaved.Connect([handler, user](const std::string& FileName) { RaiseFromCallback(handler(FileName.c_str(), user)); }));
+    GiveConnection(result, self->WindCaseSaved.Connect([handler, user](const std::string& FileName) { RaiseFromCallback(CallHost(handler, FileName.c_str(), user)); }));
     return Succeeded();
   } catch (...) {
     return Failed();

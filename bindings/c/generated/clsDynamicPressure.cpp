@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsDynamicPressure_get_WindArea(orve_clsDynamicPressure object, orve_WindAreas* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -15,6 +16,7 @@ orve_error orve_clsDynamicPressure_get_WindArea(orve_clsDynamicPressure object, 
 }
 
 orve_error orve_clsDynamicPressure_let_WindArea(orve_clsDynamicPressure object, orve_WindAreas value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->WindArea(static_cast<orve::WindAreas>(value));
@@ -25,6 +27,7 @@ orve_error orve_clsDynamicPressure_let_WindArea(orve_clsDynamicPressure object, 
 }
 
 orve_error orve_clsDynamicPressure_get_WindSector(orve_clsDynamicPressure object, orve_WindSectors* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -36,6 +39,7 @@ orve_error orve_clsDynamicPressure_get_WindSector(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_let_WindSector(orve_clsDynamicPressure object, orve_WindSectors value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->WindSector(static_cast<orve::WindSectors>(value));
@@ -46,6 +50,7 @@ orve_error orve_clsDynamicPressure_let_WindSector(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_get_SiteDirty(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -57,6 +62,7 @@ orve_error orve_clsDynamicPressure_get_SiteDirty(orve_clsDynamicPressure object,
 }
 
 orve_error orve_clsDynamicPressure_let_SiteDirty(orve_clsDynamicPressure object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SiteDirty(value);
@@ -67,6 +73,7 @@ orve_error orve_clsDynamicPressure_let_SiteDirty(orve_clsDynamicPressure object,
 }
 
 orve_error orve_clsDynamicPressure_get_SiteSelected(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -78,6 +85,7 @@ orve_error orve_clsDynamicPressure_get_SiteSelected(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_let_SiteSelected(orve_clsDynamicPressure object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SiteSelected(value);
@@ -88,6 +96,7 @@ orve_error orve_clsDynamicPressure_let_SiteSelected(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_get_SiteEdited(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -99,6 +108,7 @@ orve_error orve_clsDynamicPressure_get_SiteEdited(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_let_SiteEdited(orve_clsDynamicPressure object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SiteEdited(value);
@@ -109,6 +119,7 @@ orve_error orve_clsDynamicPressure_let_SiteEdited(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_get_Method(orve_clsDynamicPressure object, orve_Methods* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -120,6 +131,7 @@ orve_error orve_clsDynamicPressure_get_Method(orve_clsDynamicPressure object, or
 }
 
 orve_error orve_clsDynamicPressure_let_Method(orve_clsDynamicPressure object, orve_Methods value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->Method(static_cast<orve::Methods>(value));
@@ -130,6 +142,7 @@ orve_error orve_clsDynamicPressure_let_Method(orve_clsDynamicPressure object, or
 }
 
 orve_error orve_clsDynamicPressure_get_ManualResults(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -141,6 +154,7 @@ orve_error orve_clsDynamicPressure_get_ManualResults(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_let_ManualResults(orve_clsDynamicPressure object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->ManualResults(value);
@@ -151,6 +165,7 @@ orve_error orve_clsDynamicPressure_let_ManualResults(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_get_GridReference(orve_clsDynamicPressure object, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -162,6 +177,7 @@ orve_error orve_clsDynamicPressure_get_GridReference(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_let_GridReference(orve_clsDynamicPressure object, const char* value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->GridReference(TextArgument(value, "value"));
@@ -172,6 +188,7 @@ orve_error orve_clsDynamicPressure_let_GridReference(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_get_SaBasedOn(orve_clsDynamicPressure object, orve_SaBasedOnTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -183,6 +200,7 @@ orve_error orve_clsDynamicPressure_get_SaBasedOn(orve_clsDynamicPressure object,
 }
 
 orve_error orve_clsDynamicPressure_let_SaBasedOn(orve_clsDynamicPressure object, orve_SaBasedOnTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SaBasedOn(static_cast<orve::SaBasedOnTypes>(value));
@@ -193,6 +211,7 @@ orve_error orve_clsDynamicPressure_let_SaBasedOn(orve_clsDynamicPressure object,
 }
 
 orve_error orve_clsDynamicPressure_get_SiteAltitude(orve_clsDynamicPressure object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -204,6 +223,7 @@ orve_error orve_clsDynamicPressure_get_SiteAltitude(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_let_SiteAltitude(orve_clsDynamicPressure object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SiteAltitude(value);
@@ -214,6 +234,7 @@ orve_error orve_clsDynamicPressure_let_SiteAltitude(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_get_BasicWindSpeed(orve_clsDynamicPressure object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -225,6 +246,7 @@ orve_error orve_clsDynamicPressure_get_BasicWindSpeed(orve_clsDynamicPressure ob
 }
 
 orve_error orve_clsDynamicPressure_let_BasicWindSpeed(orve_clsDynamicPressure object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->BasicWindSpeed(value);
@@ -235,6 +257,7 @@ orve_error orve_clsDynamicPressure_let_BasicWindSpeed(orve_clsDynamicPressure ob
 }
 
 orve_error orve_clsDynamicPressure_get_AnnualRisk(orve_clsDynamicPressure object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -246,6 +269,7 @@ orve_error orve_clsDynamicPressure_get_AnnualRisk(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_let_AnnualRisk(orve_clsDynamicPressure object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->AnnualRisk(value);
@@ -256,6 +280,7 @@ orve_error orve_clsDynamicPressure_let_AnnualRisk(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_get_LifeTime(orve_clsDynamicPressure object, orve_LifeTime* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -267,6 +292,7 @@ orve_error orve_clsDynamicPressure_get_LifeTime(orve_clsDynamicPressure object, 
 }
 
 orve_error orve_clsDynamicPressure_let_LifeTime(orve_clsDynamicPressure object, orve_LifeTime value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->LifeTime(static_cast<orve::LifeTime>(value));
@@ -277,6 +303,7 @@ orve_error orve_clsDynamicPressure_let_LifeTime(orve_clsDynamicPressure object, 
 }
 
 orve_error orve_clsDynamicPressure_get_Duration(orve_clsDynamicPressure object, orve_Durations* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -288,6 +315,7 @@ orve_error orve_clsDynamicPressure_get_Duration(orve_clsDynamicPressure object, 
 }
 
 orve_error orve_clsDynamicPressure_let_Duration(orve_clsDynamicPressure object, orve_Durations value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->Duration(static_cast<orve::Durations>(value));
@@ -298,6 +326,7 @@ orve_error orve_clsDynamicPressure_let_Duration(orve_clsDynamicPressure object, 
 }
 
 orve_error orve_clsDynamicPressure_get_StartMonth(orve_clsDynamicPressure object, orve_Months* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -309,6 +338,7 @@ orve_error orve_clsDynamicPressure_get_StartMonth(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_let_StartMonth(orve_clsDynamicPressure object, orve_Months value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->StartMonth(static_cast<orve::Months>(value));
@@ -319,6 +349,7 @@ orve_error orve_clsDynamicPressure_let_StartMonth(orve_clsDynamicPressure object
 }
 
 orve_error orve_clsDynamicPressure_get_CrestHeight_Z(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -330,6 +361,7 @@ orve_error orve_clsDynamicPressure_get_CrestHeight_Z(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_let_CrestHeight_Z(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->CrestHeight_Z(static_cast<orve::WindSectors>(WindSector), value);
@@ -340,6 +372,7 @@ orve_error orve_clsDynamicPressure_let_CrestHeight_Z(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_get_SiteLocation_X(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -351,6 +384,7 @@ orve_error orve_clsDynamicPressure_get_SiteLocation_X(orve_clsDynamicPressure ob
 }
 
 orve_error orve_clsDynamicPressure_let_SiteLocation_X(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SiteLocation_X(static_cast<orve::WindSectors>(WindSector), value);
@@ -361,6 +395,7 @@ orve_error orve_clsDynamicPressure_let_SiteLocation_X(orve_clsDynamicPressure ob
 }
 
 orve_error orve_clsDynamicPressure_get_UpwindLength_LU(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -372,6 +407,7 @@ orve_error orve_clsDynamicPressure_get_UpwindLength_LU(orve_clsDynamicPressure o
 }
 
 orve_error orve_clsDynamicPressure_let_UpwindLength_LU(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->UpwindLength_LU(static_cast<orve::WindSectors>(WindSector), value);
@@ -382,6 +418,7 @@ orve_error orve_clsDynamicPressure_let_UpwindLength_LU(orve_clsDynamicPressure o
 }
 
 orve_error orve_clsDynamicPressure_get_DownwindLength_LD(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -393,6 +430,7 @@ orve_error orve_clsDynamicPressure_get_DownwindLength_LD(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_let_DownwindLength_LD(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->DownwindLength_LD(static_cast<orve::WindSectors>(WindSector), value);
@@ -403,6 +441,7 @@ orve_error orve_clsDynamicPressure_let_DownwindLength_LD(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_get_BaseAltitude(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -414,6 +453,7 @@ orve_error orve_clsDynamicPressure_get_BaseAltitude(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_let_BaseAltitude(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->BaseAltitude(static_cast<orve::WindSectors>(WindSector), value);
@@ -424,6 +464,7 @@ orve_error orve_clsDynamicPressure_let_BaseAltitude(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_get_ObstructionHeight_Ho(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -435,6 +476,7 @@ orve_error orve_clsDynamicPressure_get_ObstructionHeight_Ho(orve_clsDynamicPress
 }
 
 orve_error orve_clsDynamicPressure_let_ObstructionHeight_Ho(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->ObstructionHeight_Ho(static_cast<orve::WindSectors>(WindSector), value);
@@ -445,6 +487,7 @@ orve_error orve_clsDynamicPressure_let_ObstructionHeight_Ho(orve_clsDynamicPress
 }
 
 orve_error orve_clsDynamicPressure_get_ObstructionSpacing_Xo(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -456,6 +499,7 @@ orve_error orve_clsDynamicPressure_get_ObstructionSpacing_Xo(orve_clsDynamicPres
 }
 
 orve_error orve_clsDynamicPressure_let_ObstructionSpacing_Xo(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->ObstructionSpacing_Xo(static_cast<orve::WindSectors>(WindSector), value);
@@ -466,6 +510,7 @@ orve_error orve_clsDynamicPressure_let_ObstructionSpacing_Xo(orve_clsDynamicPres
 }
 
 orve_error orve_clsDynamicPressure_get_FetchesToSea(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -477,6 +522,7 @@ orve_error orve_clsDynamicPressure_get_FetchesToSea(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_let_FetchesToSea(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->FetchesToSea(static_cast<orve::WindSectors>(WindSector), value);
@@ -487,6 +533,7 @@ orve_error orve_clsDynamicPressure_let_FetchesToSea(orve_clsDynamicPressure obje
 }
 
 orve_error orve_clsDynamicPressure_get_FetchesInTown(orve_clsDynamicPressure object, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -498,6 +545,7 @@ orve_error orve_clsDynamicPressure_get_FetchesInTown(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_let_FetchesInTown(orve_clsDynamicPressure object, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->FetchesInTown(static_cast<orve::WindSectors>(WindSector), value);
@@ -508,6 +556,7 @@ orve_error orve_clsDynamicPressure_let_FetchesInTown(orve_clsDynamicPressure obj
 }
 
 orve_error orve_clsDynamicPressure_get_ProbabilityFactor_Sp(orve_clsDynamicPressure object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -519,6 +568,7 @@ orve_error orve_clsDynamicPressure_get_ProbabilityFactor_Sp(orve_clsDynamicPress
 }
 
 orve_error orve_clsDynamicPressure_get_SeasonalFactor_Ss(orve_clsDynamicPressure object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -530,6 +580,7 @@ orve_error orve_clsDynamicPressure_get_SeasonalFactor_Ss(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_get_DirectionFactor_Sd(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -541,6 +592,7 @@ orve_error orve_clsDynamicPressure_get_DirectionFactor_Sd(orve_clsDynamicPressur
 }
 
 orve_error orve_clsDynamicPressure_get_AltitudeFactor_Sa(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -552,6 +604,7 @@ orve_error orve_clsDynamicPressure_get_AltitudeFactor_Sa(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_get_DisplacementHeight_Hd(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -563,6 +616,7 @@ orve_error orve_clsDynamicPressure_get_DisplacementHeight_Hd(orve_clsDynamicPres
 }
 
 orve_error orve_clsDynamicPressure_get_EffectiveHeight_He(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -574,6 +628,7 @@ orve_error orve_clsDynamicPressure_get_EffectiveHeight_He(orve_clsDynamicPressur
 }
 
 orve_error orve_clsDynamicPressure_get_TopographicIncrement_Sh(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -585,6 +640,7 @@ orve_error orve_clsDynamicPressure_get_TopographicIncrement_Sh(orve_clsDynamicPr
 }
 
 orve_error orve_clsDynamicPressure_get_FetchFactor_Sc(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -596,6 +652,7 @@ orve_error orve_clsDynamicPressure_get_FetchFactor_Sc(orve_clsDynamicPressure ob
 }
 
 orve_error orve_clsDynamicPressure_get_TurbulenceFactor_St(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -607,6 +664,7 @@ orve_error orve_clsDynamicPressure_get_TurbulenceFactor_St(orve_clsDynamicPressu
 }
 
 orve_error orve_clsDynamicPressure_get_FetchAdjustmentFactor_Tc(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -618,6 +676,7 @@ orve_error orve_clsDynamicPressure_get_FetchAdjustmentFactor_Tc(orve_clsDynamicP
 }
 
 orve_error orve_clsDynamicPressure_get_TurbulenceAdjustmentFactor_Tt(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -629,6 +688,7 @@ orve_error orve_clsDynamicPressure_get_TurbulenceAdjustmentFactor_Tt(orve_clsDyn
 }
 
 orve_error orve_clsDynamicPressure_get_GustPeakFactor_gt(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -640,6 +700,7 @@ orve_error orve_clsDynamicPressure_get_GustPeakFactor_gt(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_get_TerrainAndBuildingFactor_Sb(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -651,6 +712,7 @@ orve_error orve_clsDynamicPressure_get_TerrainAndBuildingFactor_Sb(orve_clsDynam
 }
 
 orve_error orve_clsDynamicPressure_get_EffectiveWindSpeed_Ve(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -662,6 +724,7 @@ orve_error orve_clsDynamicPressure_get_EffectiveWindSpeed_Ve(orve_clsDynamicPres
 }
 
 orve_error orve_clsDynamicPressure_get_DynamicPressure_q(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -673,6 +736,7 @@ orve_error orve_clsDynamicPressure_get_DynamicPressure_q(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_let_DynamicPressure_q(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->DynamicPressure_q(static_cast<orve::WindAreas>(WindArea), static_cast<orve::WindSectors>(WindSector), value);
@@ -683,6 +747,7 @@ orve_error orve_clsDynamicPressure_let_DynamicPressure_q(orve_clsDynamicPressure
 }
 
 orve_error orve_clsDynamicPressure_get_SizeEffectFactor_Ca(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -694,6 +759,7 @@ orve_error orve_clsDynamicPressure_get_SizeEffectFactor_Ca(orve_clsDynamicPressu
 }
 
 orve_error orve_clsDynamicPressure_let_SizeEffectFactor_Ca(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
     self->SizeEffectFactor_Ca(static_cast<orve::WindAreas>(WindArea), static_cast<orve::WindSectors>(WindSector), value);
@@ -704,6 +770,7 @@ orve_error orve_clsDynamicPressure_let_SizeEffectFactor_Ca(orve_clsDynamicPressu
 }
 
 orve_error orve_clsDynamicPressure_get_SiteWindSpeed_Vs(orve_clsDynamicPressure object, orve_WindAreas WindArea, orve_WindSectors WindSector, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -715,6 +782,7 @@ orve_error orve_clsDynamicPressure_get_SiteWindSpeed_Vs(orve_clsDynamicPressure 
 }
 
 orve_error orve_clsDynamicPressure_SelectSite(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -726,6 +794,7 @@ orve_error orve_clsDynamicPressure_SelectSite(orve_clsDynamicPressure object, bo
 }
 
 orve_error orve_clsDynamicPressure_EnterSite(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);
@@ -737,6 +806,7 @@ orve_error orve_clsDynamicPressure_EnterSite(orve_clsDynamicPressure object, boo
 }
 
 orve_error orve_clsDynamicPressure_EditSite(orve_clsDynamicPressure object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsDynamicPressure>(object);

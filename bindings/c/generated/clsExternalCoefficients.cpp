@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsExternalCoefficients_get_BuildingArea(orve_clsExternalCoefficients object, orve_BuildingAreas* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -15,6 +16,7 @@ orve_error orve_clsExternalCoefficients_get_BuildingArea(orve_clsExternalCoeffic
 }
 
 orve_error orve_clsExternalCoefficients_let_BuildingArea(orve_clsExternalCoefficients object, orve_BuildingAreas value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->BuildingArea(static_cast<orve::BuildingAreas>(value));
@@ -25,6 +27,7 @@ orve_error orve_clsExternalCoefficients_let_BuildingArea(orve_clsExternalCoeffic
 }
 
 orve_error orve_clsExternalCoefficients_get_Face(orve_clsExternalCoefficients object, orve_Faces* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -36,6 +39,7 @@ orve_error orve_clsExternalCoefficients_get_Face(orve_clsExternalCoefficients ob
 }
 
 orve_error orve_clsExternalCoefficients_let_Face(orve_clsExternalCoefficients object, orve_Faces value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->Face(static_cast<orve::Faces>(value));
@@ -46,6 +50,7 @@ orve_error orve_clsExternalCoefficients_let_Face(orve_clsExternalCoefficients ob
 }
 
 orve_error orve_clsExternalCoefficients_get_ZoneIndex(orve_clsExternalCoefficients object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -57,6 +62,7 @@ orve_error orve_clsExternalCoefficients_get_ZoneIndex(orve_clsExternalCoefficien
 }
 
 orve_error orve_clsExternalCoefficients_let_ZoneIndex(orve_clsExternalCoefficients object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->ZoneIndex(value);
@@ -67,6 +73,7 @@ orve_error orve_clsExternalCoefficients_let_ZoneIndex(orve_clsExternalCoefficien
 }
 
 orve_error orve_clsExternalCoefficients_get_ZoneIndexFrom(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -78,6 +85,7 @@ orve_error orve_clsExternalCoefficients_get_ZoneIndexFrom(orve_clsExternalCoeffi
 }
 
 orve_error orve_clsExternalCoefficients_get_ZoneIndexTo(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, orve_ResultsScreens ResultsScreen, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -89,6 +97,7 @@ orve_error orve_clsExternalCoefficients_get_ZoneIndexTo(orve_clsExternalCoeffici
 }
 
 orve_error orve_clsExternalCoefficients_get_ManualResults(orve_clsExternalCoefficients object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -100,6 +109,7 @@ orve_error orve_clsExternalCoefficients_get_ManualResults(orve_clsExternalCoeffi
 }
 
 orve_error orve_clsExternalCoefficients_let_ManualResults(orve_clsExternalCoefficients object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->ManualResults(value);
@@ -110,6 +120,7 @@ orve_error orve_clsExternalCoefficients_let_ManualResults(orve_clsExternalCoeffi
 }
 
 orve_error orve_clsExternalCoefficients_get_Bay(orve_clsExternalCoefficients object, orve_Bays* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -121,6 +132,7 @@ orve_error orve_clsExternalCoefficients_get_Bay(orve_clsExternalCoefficients obj
 }
 
 orve_error orve_clsExternalCoefficients_let_Bay(orve_clsExternalCoefficients object, orve_Bays value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->Bay(static_cast<orve::Bays>(value));
@@ -131,6 +143,7 @@ orve_error orve_clsExternalCoefficients_let_Bay(orve_clsExternalCoefficients obj
 }
 
 orve_error orve_clsExternalCoefficients_get_GableFace(orve_clsExternalCoefficients object, orve_Faces Face, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -142,6 +155,7 @@ orve_error orve_clsExternalCoefficients_get_GableFace(orve_clsExternalCoefficien
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_WindFromFace(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -153,6 +167,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_WindFromFace(orve_clsExternal
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_AngleNormalToFace(orve_clsExternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -164,6 +179,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_AngleNormalToFace(orve_clsExt
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_WorstCase_DynamicPressure_q(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -175,6 +191,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_WorstCase_DynamicPressure_q(o
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_WorstCase_SizeEffectFactor_Ca(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -186,6 +203,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_WorstCase_SizeEffectFactor_Ca
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDescription(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -197,6 +215,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDescription(orve_clsExter
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensionsXY(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, orve_ResultsScreens ResultsScreen, orve_ZoneDimensionsXY* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -208,6 +227,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensionsXY(orve_clsExte
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensionX(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, orve_ResultsScreens ResultsScreen, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -219,6 +239,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensionX(orve_clsExtern
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensionY(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, orve_ResultsScreens ResultsScreen, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -230,6 +251,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensionY(orve_clsExtern
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensions(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, orve_ResultsScreens ResultsScreen, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -241,6 +263,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ZoneDimensions(orve_clsExtern
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalCoefficientFactor_Cpe_Pressure(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -252,6 +275,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalCoefficientFactor_Cpe
 }
 
 orve_error orve_clsExternalCoefficients_let_Hybrid_ExternalCoefficientFactor_Cpe_Pressure(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->Hybrid_ExternalCoefficientFactor_Cpe_Pressure(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), ZoneIndex, value);
@@ -262,6 +286,7 @@ orve_error orve_clsExternalCoefficients_let_Hybrid_ExternalCoefficientFactor_Cpe
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalCoefficientFactor_Cpe_Suction(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -273,6 +298,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalCoefficientFactor_Cpe
 }
 
 orve_error orve_clsExternalCoefficients_let_Hybrid_ExternalCoefficientFactor_Cpe_Suction(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
     self->Hybrid_ExternalCoefficientFactor_Cpe_Suction(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), ZoneIndex, value);
@@ -283,6 +309,7 @@ orve_error orve_clsExternalCoefficients_let_Hybrid_ExternalCoefficientFactor_Cpe
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalAppliedLoad_Pressure(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -294,6 +321,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalAppliedLoad_Pressure(
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalAppliedLoad_Suction(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);
@@ -305,6 +333,7 @@ orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalAppliedLoad_Suction(o
 }
 
 orve_error orve_clsExternalCoefficients_get_Hybrid_ExternalAppliedLoads(orve_clsExternalCoefficients object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsExternalCoefficients>(object);

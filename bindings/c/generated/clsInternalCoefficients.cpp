@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsInternalCoefficients_get_Face(orve_clsInternalCoefficients object, orve_Faces* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -15,6 +16,7 @@ orve_error orve_clsInternalCoefficients_get_Face(orve_clsInternalCoefficients ob
 }
 
 orve_error orve_clsInternalCoefficients_let_Face(orve_clsInternalCoefficients object, orve_Faces value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->Face(static_cast<orve::Faces>(value));
@@ -25,6 +27,7 @@ orve_error orve_clsInternalCoefficients_let_Face(orve_clsInternalCoefficients ob
 }
 
 orve_error orve_clsInternalCoefficients_get_StructureType(orve_clsInternalCoefficients object, orve_StructureTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -36,6 +39,7 @@ orve_error orve_clsInternalCoefficients_get_StructureType(orve_clsInternalCoeffi
 }
 
 orve_error orve_clsInternalCoefficients_let_StructureType(orve_clsInternalCoefficients object, orve_StructureTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->StructureType(static_cast<orve::StructureTypes>(value));
@@ -46,6 +50,7 @@ orve_error orve_clsInternalCoefficients_let_StructureType(orve_clsInternalCoeffi
 }
 
 orve_error orve_clsInternalCoefficients_get_DiagonalDimension_a(orve_clsInternalCoefficients object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -57,6 +62,7 @@ orve_error orve_clsInternalCoefficients_get_DiagonalDimension_a(orve_clsInternal
 }
 
 orve_error orve_clsInternalCoefficients_let_DiagonalDimension_a(orve_clsInternalCoefficients object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->DiagonalDimension_a(value);
@@ -67,6 +73,7 @@ orve_error orve_clsInternalCoefficients_let_DiagonalDimension_a(orve_clsInternal
 }
 
 orve_error orve_clsInternalCoefficients_get_InternalVolume(orve_clsInternalCoefficients object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -78,6 +85,7 @@ orve_error orve_clsInternalCoefficients_get_InternalVolume(orve_clsInternalCoeff
 }
 
 orve_error orve_clsInternalCoefficients_let_InternalVolume(orve_clsInternalCoefficients object, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->InternalVolume(value);
@@ -88,6 +96,7 @@ orve_error orve_clsInternalCoefficients_let_InternalVolume(orve_clsInternalCoeff
 }
 
 orve_error orve_clsInternalCoefficients_get_WindPressureType(orve_clsInternalCoefficients object, orve_WindPressureTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -99,6 +108,7 @@ orve_error orve_clsInternalCoefficients_get_WindPressureType(orve_clsInternalCoe
 }
 
 orve_error orve_clsInternalCoefficients_let_WindPressureType(orve_clsInternalCoefficients object, orve_WindPressureTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->WindPressureType(static_cast<orve::WindPressureTypes>(value));
@@ -109,6 +119,7 @@ orve_error orve_clsInternalCoefficients_let_WindPressureType(orve_clsInternalCoe
 }
 
 orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_GeneralCase(orve_clsInternalCoefficients object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -120,6 +131,7 @@ orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_GeneralCase(orve_cl
 }
 
 orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_GeneralCase(orve_clsInternalCoefficients object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->EnclosedBuilding_GeneralCase(value);
@@ -130,6 +142,7 @@ orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_GeneralCase(orve_cl
 }
 
 orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_NoPositiveInternalPressure(orve_clsInternalCoefficients object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -141,6 +154,7 @@ orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_NoPositiveInternalP
 }
 
 orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_NoPositiveInternalPressure(orve_clsInternalCoefficients object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->EnclosedBuilding_NoPositiveInternalPressure(value);
@@ -151,6 +165,7 @@ orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_NoPositiveInternalP
 }
 
 orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_WindNormalToPermeableFace(orve_clsInternalCoefficients object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -162,6 +177,7 @@ orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_WindNormalToPermeab
 }
 
 orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_WindNormalToPermeableFace(orve_clsInternalCoefficients object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->EnclosedBuilding_WindNormalToPermeableFace(value);
@@ -172,6 +188,7 @@ orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_WindNormalToPermeab
 }
 
 orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_WindNormalToImpermeableFace(orve_clsInternalCoefficients object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -183,6 +200,7 @@ orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_WindNormalToImperme
 }
 
 orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_WindNormalToImpermeableFace(orve_clsInternalCoefficients object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->EnclosedBuilding_WindNormalToImpermeableFace(value);
@@ -193,6 +211,7 @@ orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_WindNormalToImperme
 }
 
 orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_FourWallsEquallyPermeable(orve_clsInternalCoefficients object, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -204,6 +223,7 @@ orve_error orve_clsInternalCoefficients_get_EnclosedBuilding_FourWallsEquallyPer
 }
 
 orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_FourWallsEquallyPermeable(orve_clsInternalCoefficients object, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->EnclosedBuilding_FourWallsEquallyPermeable(value);
@@ -214,6 +234,7 @@ orve_error orve_clsInternalCoefficients_let_EnclosedBuilding_FourWallsEquallyPer
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneIndex(orve_clsInternalCoefficients object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -225,6 +246,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneIndex(orve_clsIn
 }
 
 orve_error orve_clsInternalCoefficients_let_DominantOpening_ZoneIndex(orve_clsInternalCoefficients object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->DominantOpening_ZoneIndex(value);
@@ -235,6 +257,7 @@ orve_error orve_clsInternalCoefficients_let_DominantOpening_ZoneIndex(orve_clsIn
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneIndexFrom(orve_clsInternalCoefficients object, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -246,6 +269,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneIndexFrom(orve_c
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneIndexTo(orve_clsInternalCoefficients object, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -257,6 +281,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneIndexTo(orve_cls
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneDescription(orve_clsInternalCoefficients object, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -268,6 +293,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_ZoneDescription(orve
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_SelectedZoneIndex(orve_clsInternalCoefficients object, orve_Faces Face, orve_WallZones* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -279,6 +305,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_SelectedZoneIndex(or
 }
 
 orve_error orve_clsInternalCoefficients_let_DominantOpening_SelectedZoneIndex(orve_clsInternalCoefficients object, orve_Faces Face, orve_WallZones value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->DominantOpening_SelectedZoneIndex(static_cast<orve::Faces>(Face), static_cast<orve::WallZones>(value));
@@ -289,6 +316,7 @@ orve_error orve_clsInternalCoefficients_let_DominantOpening_SelectedZoneIndex(or
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_SelectedZoneCpe_Pressure(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -300,6 +328,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_SelectedZoneCpe_Pres
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_SelectedZoneCpe_Suction(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -311,6 +340,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_SelectedZoneCpe_Suct
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_Ratio2(orve_clsInternalCoefficients object, orve_Faces Face, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -322,6 +352,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_Ratio2(orve_clsInter
 }
 
 orve_error orve_clsInternalCoefficients_let_DominantOpening_Ratio2(orve_clsInternalCoefficients object, orve_Faces Face, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->DominantOpening_Ratio2(static_cast<orve::Faces>(Face), value);
@@ -332,6 +363,7 @@ orve_error orve_clsInternalCoefficients_let_DominantOpening_Ratio2(orve_clsInter
 }
 
 orve_error orve_clsInternalCoefficients_get_DominantOpening_Ratio3(orve_clsInternalCoefficients object, orve_Faces Face, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -343,6 +375,7 @@ orve_error orve_clsInternalCoefficients_get_DominantOpening_Ratio3(orve_clsInter
 }
 
 orve_error orve_clsInternalCoefficients_let_DominantOpening_Ratio3(orve_clsInternalCoefficients object, orve_Faces Face, bool value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->DominantOpening_Ratio3(static_cast<orve::Faces>(Face), value);
@@ -353,6 +386,7 @@ orve_error orve_clsInternalCoefficients_let_DominantOpening_Ratio3(orve_clsInter
 }
 
 orve_error orve_clsInternalCoefficients_get_InternalCoefficientFactor_Cpi_Pressure(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -364,6 +398,7 @@ orve_error orve_clsInternalCoefficients_get_InternalCoefficientFactor_Cpi_Pressu
 }
 
 orve_error orve_clsInternalCoefficients_let_InternalCoefficientFactor_Cpi_Pressure(orve_clsInternalCoefficients object, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->InternalCoefficientFactor_Cpi_Pressure(static_cast<orve::Faces>(Face), value);
@@ -374,6 +409,7 @@ orve_error orve_clsInternalCoefficients_let_InternalCoefficientFactor_Cpi_Pressu
 }
 
 orve_error orve_clsInternalCoefficients_get_InternalCoefficientFactor_Cpi_Suction(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -385,6 +421,7 @@ orve_error orve_clsInternalCoefficients_get_InternalCoefficientFactor_Cpi_Suctio
 }
 
 orve_error orve_clsInternalCoefficients_let_InternalCoefficientFactor_Cpi_Suction(orve_clsInternalCoefficients object, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
     self->InternalCoefficientFactor_Cpi_Suction(static_cast<orve::Faces>(Face), value);
@@ -395,6 +432,7 @@ orve_error orve_clsInternalCoefficients_let_InternalCoefficientFactor_Cpi_Suctio
 }
 
 orve_error orve_clsInternalCoefficients_get_Hybrid_WorstCase_DynamicPressure_q(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -406,6 +444,7 @@ orve_error orve_clsInternalCoefficients_get_Hybrid_WorstCase_DynamicPressure_q(o
 }
 
 orve_error orve_clsInternalCoefficients_get_Calculated_DiagonalDimension_a(orve_clsInternalCoefficients object, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -417,6 +456,7 @@ orve_error orve_clsInternalCoefficients_get_Calculated_DiagonalDimension_a(orve_
 }
 
 orve_error orve_clsInternalCoefficients_get_Hybrid_WorstCase_SizeEffectFactor_Ca(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -428,6 +468,7 @@ orve_error orve_clsInternalCoefficients_get_Hybrid_WorstCase_SizeEffectFactor_Ca
 }
 
 orve_error orve_clsInternalCoefficients_get_Hybrid_InternalAppliedLoad_Pressure(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -439,6 +480,7 @@ orve_error orve_clsInternalCoefficients_get_Hybrid_InternalAppliedLoad_Pressure(
 }
 
 orve_error orve_clsInternalCoefficients_get_Hybrid_InternalAppliedLoad_Suction(orve_clsInternalCoefficients object, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);
@@ -450,6 +492,7 @@ orve_error orve_clsInternalCoefficients_get_Hybrid_InternalAppliedLoad_Suction(o
 }
 
 orve_error orve_clsInternalCoefficients_get_Hybrid_InternalAppliedLoads(orve_clsInternalCoefficients object, orve_Faces Face, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsInternalCoefficients>(object);

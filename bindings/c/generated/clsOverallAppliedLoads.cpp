@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsOverallAppliedLoads_GetCantileverZones(orve_clsOverallAppliedLoads object, orve_CantileverZones** rows, size_t* count) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(rows);
     RequireResult(count);
@@ -16,6 +17,7 @@ orve_error orve_clsOverallAppliedLoads_GetCantileverZones(orve_clsOverallApplied
 }
 
 orve_error orve_clsOverallAppliedLoads_GetCantileverResults(orve_clsOverallAppliedLoads object, orve_CantileverResults** rows, size_t* count) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(rows);
     RequireResult(count);
@@ -28,6 +30,7 @@ orve_error orve_clsOverallAppliedLoads_GetCantileverResults(orve_clsOverallAppli
 }
 
 orve_error orve_clsOverallAppliedLoads_get_BuildingArea(orve_clsOverallAppliedLoads object, orve_BuildingAreas* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -39,6 +42,7 @@ orve_error orve_clsOverallAppliedLoads_get_BuildingArea(orve_clsOverallAppliedLo
 }
 
 orve_error orve_clsOverallAppliedLoads_let_BuildingArea(orve_clsOverallAppliedLoads object, orve_BuildingAreas value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->BuildingArea(static_cast<orve::BuildingAreas>(value));
@@ -49,6 +53,7 @@ orve_error orve_clsOverallAppliedLoads_let_BuildingArea(orve_clsOverallAppliedLo
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Face(orve_clsOverallAppliedLoads object, orve_Faces* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -60,6 +65,7 @@ orve_error orve_clsOverallAppliedLoads_get_Face(orve_clsOverallAppliedLoads obje
 }
 
 orve_error orve_clsOverallAppliedLoads_let_Face(orve_clsOverallAppliedLoads object, orve_Faces value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->Face(static_cast<orve::Faces>(value));
@@ -70,6 +76,7 @@ orve_error orve_clsOverallAppliedLoads_let_Face(orve_clsOverallAppliedLoads obje
 }
 
 orve_error orve_clsOverallAppliedLoads_get_ZoneIndex(orve_clsOverallAppliedLoads object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -81,6 +88,7 @@ orve_error orve_clsOverallAppliedLoads_get_ZoneIndex(orve_clsOverallAppliedLoads
 }
 
 orve_error orve_clsOverallAppliedLoads_let_ZoneIndex(orve_clsOverallAppliedLoads object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->ZoneIndex(value);
@@ -91,6 +99,7 @@ orve_error orve_clsOverallAppliedLoads_let_ZoneIndex(orve_clsOverallAppliedLoads
 }
 
 orve_error orve_clsOverallAppliedLoads_get_ZoneIndexFrom(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -102,6 +111,7 @@ orve_error orve_clsOverallAppliedLoads_get_ZoneIndexFrom(orve_clsOverallAppliedL
 }
 
 orve_error orve_clsOverallAppliedLoads_get_ZoneIndexTo(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -113,6 +123,7 @@ orve_error orve_clsOverallAppliedLoads_get_ZoneIndexTo(orve_clsOverallAppliedLoa
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_ZoneDescription(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -124,6 +135,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_ZoneDescription(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_ZoneDimensions(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -135,6 +147,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_ZoneDimensions(orve_clsOverall
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_ExternalAppliedLoads(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -146,6 +159,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_ExternalAppliedLoads(orve_clsO
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_InternalAppliedLoads(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -157,6 +171,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_InternalAppliedLoads(orve_clsO
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_OverallAppliedLoad_Pressure(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -168,6 +183,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_OverallAppliedLoad_Pressure(or
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_OverallAppliedLoad_Suction(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -179,6 +195,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_OverallAppliedLoad_Suction(orv
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Hybrid_OverallAppliedLoads(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t ZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -190,6 +207,7 @@ orve_error orve_clsOverallAppliedLoads_get_Hybrid_OverallAppliedLoads(orve_clsOv
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SelectedFace(orve_clsOverallAppliedLoads object, orve_Faces* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -201,6 +219,7 @@ orve_error orve_clsOverallAppliedLoads_get_SelectedFace(orve_clsOverallAppliedLo
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SelectedFace(orve_clsOverallAppliedLoads object, orve_Faces value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SelectedFace(static_cast<orve::Faces>(value));
@@ -211,6 +230,7 @@ orve_error orve_clsOverallAppliedLoads_let_SelectedFace(orve_clsOverallAppliedLo
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SelectedLoadType(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, orve_SelectedLoadTypes* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -222,6 +242,7 @@ orve_error orve_clsOverallAppliedLoads_get_SelectedLoadType(orve_clsOverallAppli
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SelectedLoadType(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, orve_SelectedLoadTypes value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SelectedLoadType(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), static_cast<orve::SelectedLoadTypes>(value));
@@ -232,6 +253,7 @@ orve_error orve_clsOverallAppliedLoads_let_SelectedLoadType(orve_clsOverallAppli
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SelectedLoadValues(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -243,6 +265,7 @@ orve_error orve_clsOverallAppliedLoads_get_SelectedLoadValues(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SelectedLoadValues_External(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -254,6 +277,7 @@ orve_error orve_clsOverallAppliedLoads_get_SelectedLoadValues_External(orve_clsO
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SelectedLoadValues_Internal(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -265,6 +289,7 @@ orve_error orve_clsOverallAppliedLoads_get_SelectedLoadValues_Internal(orve_clsO
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_1(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -276,6 +301,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_1(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Load_1(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Load_1(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -286,6 +312,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Load_1(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_2(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -297,6 +324,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_2(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Load_2(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Load_2(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -307,6 +335,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Load_2(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_3(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -318,6 +347,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_3(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Load_3(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Load_3(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -328,6 +358,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Load_3(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Distance_1(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -339,6 +370,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Distance_1(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Distance_1(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Distance_1(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -349,6 +381,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Distance_1(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Distance_2(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -360,6 +393,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Distance_2(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Distance_2(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Distance_2(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -370,6 +404,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Distance_2(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Distance_3(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -381,6 +416,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Distance_3(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Distance_3(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Distance_3(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -391,6 +427,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Distance_3(orve_clsOveral
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Span(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -402,6 +439,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Span(orve_clsOverallAppli
 }
 
 orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Span(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->SteppedWind_Span(static_cast<orve::BuildingAreas>(BuildingArea), static_cast<orve::Faces>(Face), value);
@@ -412,6 +450,7 @@ orve_error orve_clsOverallAppliedLoads_let_SteppedWind_Span(orve_clsOverallAppli
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -423,6 +462,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load(orve_clsOverallAppli
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_External(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -434,6 +474,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_External(orve_clsOve
 }
 
 orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_Internal(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -445,6 +486,7 @@ orve_error orve_clsOverallAppliedLoads_get_SteppedWind_Load_Internal(orve_clsOve
 }
 
 orve_error orve_clsOverallAppliedLoads_get_CantileverZoneIndexFrom(orve_clsOverallAppliedLoads object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -456,6 +498,7 @@ orve_error orve_clsOverallAppliedLoads_get_CantileverZoneIndexFrom(orve_clsOvera
 }
 
 orve_error orve_clsOverallAppliedLoads_let_CantileverZoneIndexFrom(orve_clsOverallAppliedLoads object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->CantileverZoneIndexFrom(value);
@@ -466,6 +509,7 @@ orve_error orve_clsOverallAppliedLoads_let_CantileverZoneIndexFrom(orve_clsOvera
 }
 
 orve_error orve_clsOverallAppliedLoads_get_CantileverZoneIndexTo(orve_clsOverallAppliedLoads object, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -477,6 +521,7 @@ orve_error orve_clsOverallAppliedLoads_get_CantileverZoneIndexTo(orve_clsOverall
 }
 
 orve_error orve_clsOverallAppliedLoads_let_CantileverZoneIndexTo(orve_clsOverallAppliedLoads object, int16_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->CantileverZoneIndexTo(value);
@@ -487,6 +532,7 @@ orve_error orve_clsOverallAppliedLoads_let_CantileverZoneIndexTo(orve_clsOverall
 }
 
 orve_error orve_clsOverallAppliedLoads_get_CantileverZoneDescription(orve_clsOverallAppliedLoads object, int16_t CantileverZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -498,6 +544,7 @@ orve_error orve_clsOverallAppliedLoads_get_CantileverZoneDescription(orve_clsOve
 }
 
 orve_error orve_clsOverallAppliedLoads_get_CantileverZoneDimensions(orve_clsOverallAppliedLoads object, int16_t CantileverZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -509,6 +556,7 @@ orve_error orve_clsOverallAppliedLoads_get_CantileverZoneDimensions(orve_clsOver
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Cantilever_ExternalAppliedLoads(orve_clsOverallAppliedLoads object, int16_t CantileverZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -520,6 +568,7 @@ orve_error orve_clsOverallAppliedLoads_get_Cantilever_ExternalAppliedLoads(orve_
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Cantilever_InternalAppliedLoads(orve_clsOverallAppliedLoads object, int16_t CantileverZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -531,6 +580,7 @@ orve_error orve_clsOverallAppliedLoads_get_Cantilever_InternalAppliedLoads(orve_
 }
 
 orve_error orve_clsOverallAppliedLoads_get_Cantilever_OverallAppliedLoads(orve_clsOverallAppliedLoads object, int16_t CantileverZoneIndex, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -542,6 +592,7 @@ orve_error orve_clsOverallAppliedLoads_get_Cantilever_OverallAppliedLoads(orve_c
 }
 
 orve_error orve_clsOverallAppliedLoads_ExternalBayLoad(orve_clsOverallAppliedLoads object, float Span_L1, float Span_L2, float Span_L3, float WindLoad_W1, float WindLoad_W2, float WindLoad_W3, float Step_Z1, float Step_Z2, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -553,6 +604,7 @@ orve_error orve_clsOverallAppliedLoads_ExternalBayLoad(orve_clsOverallAppliedLoa
 }
 
 orve_error orve_clsOverallAppliedLoads_InternalBayLoad(orve_clsOverallAppliedLoads object, float Span_L1, float Span_L2, float Span_L3, float WindLoad_W1, float WindLoad_W2, float WindLoad_W3, float Step_Z1, float Step_Z2, float* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -564,6 +616,7 @@ orve_error orve_clsOverallAppliedLoads_InternalBayLoad(orve_clsOverallAppliedLoa
 }
 
 orve_error orve_clsOverallAppliedLoads_CantileverValues(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, bool Results, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -575,6 +628,7 @@ orve_error orve_clsOverallAppliedLoads_CantileverValues(orve_clsOverallAppliedLo
 }
 
 orve_error orve_clsOverallAppliedLoads_SelectedCantileverLoadValues(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -586,6 +640,7 @@ orve_error orve_clsOverallAppliedLoads_SelectedCantileverLoadValues(orve_clsOver
 }
 
 orve_error orve_clsOverallAppliedLoads_ResetCantileverResults(orve_clsOverallAppliedLoads object) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->ResetCantileverResults();
@@ -596,6 +651,7 @@ orve_error orve_clsOverallAppliedLoads_ResetCantileverResults(orve_clsOverallApp
 }
 
 orve_error orve_clsOverallAppliedLoads_TrimCantileverResults(orve_clsOverallAppliedLoads object) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
     self->TrimCantileverResults();
@@ -606,6 +662,7 @@ orve_error orve_clsOverallAppliedLoads_TrimCantileverResults(orve_clsOverallAppl
 }
 
 orve_error orve_clsOverallAppliedLoads_get_CantileverZoneWidthWarning(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -617,6 +674,7 @@ orve_error orve_clsOverallAppliedLoads_get_CantileverZoneWidthWarning(orve_clsOv
 }
 
 orve_error orve_clsOverallAppliedLoads_get_ContinuousSteppedWind(orve_clsOverallAppliedLoads object, orve_BuildingAreas BuildingArea, orve_Faces Face, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -628,6 +686,7 @@ orve_error orve_clsOverallAppliedLoads_get_ContinuousSteppedWind(orve_clsOverall
 }
 
 orve_error orve_clsOverallAppliedLoads_ZoneIndexFromSelectedLoadType(orve_clsOverallAppliedLoads object, orve_SelectedLoadTypes SelectedLoadType, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -639,6 +698,7 @@ orve_error orve_clsOverallAppliedLoads_ZoneIndexFromSelectedLoadType(orve_clsOve
 }
 
 orve_error orve_clsOverallAppliedLoads_SelectedLoadTypeFromZoneIndex(orve_clsOverallAppliedLoads object, int16_t ZoneIndex, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -650,6 +710,7 @@ orve_error orve_clsOverallAppliedLoads_SelectedLoadTypeFromZoneIndex(orve_clsOve
 }
 
 orve_error orve_clsOverallAppliedLoads_SelectedLoadTypeFromZoneDescription(orve_clsOverallAppliedLoads object, const char* ZoneDescription, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -661,6 +722,7 @@ orve_error orve_clsOverallAppliedLoads_SelectedLoadTypeFromZoneDescription(orve_
 }
 
 orve_error orve_clsOverallAppliedLoads_ZoneDescriptionFromSelectedLoadType(orve_clsOverallAppliedLoads object, orve_SelectedLoadTypes SelectedLoadType, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);
@@ -672,6 +734,7 @@ orve_error orve_clsOverallAppliedLoads_ZoneDescriptionFromSelectedLoadType(orve_
 }
 
 orve_error orve_clsOverallAppliedLoads_ZoneIndexFromZoneDescription(orve_clsOverallAppliedLoads object, const char* ZoneDescription, orve_BuildingAreas BuildingArea, orve_Faces Face, int16_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsOverallAppliedLoads>(object);

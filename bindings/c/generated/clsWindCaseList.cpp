@@ -4,6 +4,7 @@
 using namespace orve::c;
 
 orve_error orve_clsWindCaseList_get_Index(orve_clsWindCaseList object, int32_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -15,6 +16,7 @@ orve_error orve_clsWindCaseList_get_Index(orve_clsWindCaseList object, int32_t* 
 }
 
 orve_error orve_clsWindCaseList_let_Index(orve_clsWindCaseList object, int32_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
     self->Index(value);
@@ -25,6 +27,7 @@ orve_error orve_clsWindCaseList_let_Index(orve_clsWindCaseList object, int32_t v
 }
 
 orve_error orve_clsWindCaseList_get_Count(orve_clsWindCaseList object, int32_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -36,6 +39,7 @@ orve_error orve_clsWindCaseList_get_Count(orve_clsWindCaseList object, int32_t* 
 }
 
 orve_error orve_clsWindCaseList_get_MaxCount(orve_clsWindCaseList object, int32_t* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -47,6 +51,7 @@ orve_error orve_clsWindCaseList_get_MaxCount(orve_clsWindCaseList object, int32_
 }
 
 orve_error orve_clsWindCaseList_let_MaxCount(orve_clsWindCaseList object, int32_t value) {
+  const orve::LibraryFloatState state;
   try {
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
     self->MaxCount(value);
@@ -57,6 +62,7 @@ orve_error orve_clsWindCaseList_let_MaxCount(orve_clsWindCaseList object, int32_
 }
 
 orve_error orve_clsWindCaseList_get_Location(orve_clsWindCaseList object, int32_t Index, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -68,6 +74,7 @@ orve_error orve_clsWindCaseList_get_Location(orve_clsWindCaseList object, int32_
 }
 
 orve_error orve_clsWindCaseList_get_LocationCorrect(orve_clsWindCaseList object, int32_t Index, bool* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -79,6 +86,7 @@ orve_error orve_clsWindCaseList_get_LocationCorrect(orve_clsWindCaseList object,
 }
 
 orve_error orve_clsWindCaseList_get_Description(orve_clsWindCaseList object, int32_t Index, char** result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -90,6 +98,7 @@ orve_error orve_clsWindCaseList_get_Description(orve_clsWindCaseList object, int
 }
 
 orve_error orve_clsWindCaseList_get_Created(orve_clsWindCaseList object, int32_t Index, double* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
@@ -101,6 +110,7 @@ orve_error orve_clsWindCaseList_get_Created(orve_clsWindCaseList object, int32_t
 }
 
 orve_error orve_clsWindCaseList_get_Modified(orve_clsWindCaseList object, int32_t Index, double* result) {
+  const orve::LibraryFloatState state;
   try {
     RequireResult(result);
     const auto self = ObjectOf<orve::clsWindCaseList>(object);
