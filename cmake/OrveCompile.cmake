@@ -3,7 +3,8 @@
 add_library(orve_compile INTERFACE)
 target_compile_features(orve_compile INTERFACE cxx_std_20)
 target_compile_options(orve_compile INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Werror
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+  $<$<BOOL:${ORVE_WERROR}>:-Werror>
   # g++ 12 reports overlapping copies in sums of short texts and uninitialised members of moved variants, where there
   # are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
@@ -38,4 +39,9 @@ function(orve_precompile target)
     target_precompile_headers(${target} PRIVATE
       <algorithm> <array> <cmath> <cstdint> <functional> <memory> <optional> <string> <string_view> <utility> <vector>)
   endif()
+endfunction()
+
+# Names of a static library stay inside the program or plugin that it is linked into.
+function(orve_hidden target)
+  set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()

@@ -12,6 +12,13 @@ install(DIRECTORY engines/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orve3_bs6399_
 if(EXISTS ${ORVE_DATA_SOURCE})
   install(DIRECTORY ${ORVE_DATA_SOURCE}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/orve/wzfdata)
 endif()
+set(ORVE_COMPONENTS orve3_bs6399_2 engines)
+foreach(target IN ITEMS automation c c_static)
+  if(TARGET orve3_bs6399_2::${target})
+    list(APPEND ORVE_COMPONENTS ${target})
+  endif()
+endforeach()
+list(JOIN ORVE_COMPONENTS ", " ORVE_COMPONENTS)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # windcase carries two header libraries inside, whose licences ask for their notices beside the binary. The notices
@@ -40,3 +47,11 @@ install(FILES
   ${PROJECT_BINARY_DIR}/orve3_bs6399_2Config.cmake
   ${PROJECT_BINARY_DIR}/orve3_bs6399_2ConfigVersion.cmake
   DESTINATION ${orve_package_dir})
+
+# Takes back what the last installation from this build folder wrote.
+if(NOT TARGET uninstall)
+  add_custom_target(uninstall
+    COMMAND ${CMAKE_COMMAND} -DMANIFEST=${CMAKE_BINARY_DIR}/install_manifest.txt
+      -P ${CMAKE_CURRENT_LIST_DIR}/OrveUninstall.cmake
+    VERBATIM)
+endif()

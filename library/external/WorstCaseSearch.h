@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "core/Enumerations.h"
@@ -34,8 +35,8 @@ struct WorstCase {
   int Count = 0;    ///< How many candidates there are; interpolated ends stand last.
   int Winner = -1;  ///< Position of the winner; -1 if no product is above 0.
 
-  float q() const { return Winner < 0 ? 0.0f : Candidates[Winner].q; }
-  float Ca() const { return Winner < 0 ? 0.0f : Candidates[Winner].Ca; }
+  float q() const { return Winner < 0 ? 0.0f : Candidates[static_cast<std::size_t>(Winner)].q; }
+  float Ca() const { return Winner < 0 ? 0.0f : Candidates[static_cast<std::size_t>(Winner)].Ca; }
 };
 
 /// Walks the sectors within 45 degrees of a face's normal, or all twelve if the orientation is unknown,

@@ -1,0 +1,18 @@
+# orve_install_pc(FILE.pc.in) installs a .pc file. Folders under the prefix are given relative to the file itself, so that an
+# installation can be moved; absolute ones stand as they are.
+function(orve_install_pc template)
+  file(RELATIVE_PATH up ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+  set(ORVE_PC_PREFIX "\${pcfiledir}/${up}")
+  if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+    set(ORVE_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
+  endif()
+  foreach(folder LIBDIR INCLUDEDIR)
+    set(ORVE_PC_${folder} "\${prefix}/${CMAKE_INSTALL_${folder}}")
+    if(IS_ABSOLUTE ${CMAKE_INSTALL_${folder}})
+      set(ORVE_PC_${folder} ${CMAKE_INSTALL_${folder}})
+    endif()
+  endforeach()
+  get_filename_component(name ${template} NAME_WLE)
+  configure_file(${template} ${name} @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name} DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
