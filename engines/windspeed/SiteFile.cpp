@@ -9,6 +9,7 @@
 
 #include "common/Error.h"
 #include "common/FileLayer.h"
+#include "common/Host.h"
 #include "common/NumberText.h"
 
 namespace orve::windspeed {
@@ -175,7 +176,7 @@ SiteFile ReadSite(const std::string& dataFolder, const std::string& reference) {
   }
   faulty.fault = reference.empty() ? "No site reference is given"
                                    : "The site " + reference + " isn't in " +
-                                         (dataFolder.empty() ? "any data folder" : dataFolder);
+                                         (dataFolder.empty() ? "any data folder" : NativePath(dataFolder));
   return faulty;
 }
 

@@ -103,7 +103,7 @@ void RaiseFileError(ErrorNumber number, const std::string& path) {
   if (number == ErrorNumber::DiskFull) text = "Disk full";
   if (number == ErrorNumber::PermissionDenied) text = "Permission denied";
   if (number == ErrorNumber::PathNotFound) text = "Path not found";
-  throw Error(number, std::string(text).append(": ").append(StoredPath(path)));
+  throw Error(number, std::string(text).append(": ").append(NativePath(path)));
 }
 
 void RaiseNoPlainFile(const std::string& path) {
@@ -113,7 +113,7 @@ void RaiseNoPlainFile(const std::string& path) {
 
 void RefuseLargeFile(std::size_t size, const std::string& path) {
   if (size > LargestFile)
-    throw Error(ErrorNumber::InvalidArgument, "The file is larger than 16 MB: " + StoredPath(path));
+    throw Error(ErrorNumber::InvalidArgument, "The file is larger than 16 MB: " + NativePath(path));
 }
 
 fs::path UsableNativePath(const std::string& path) {

@@ -5,6 +5,7 @@
 #include "common/DateText.h"
 #include "common/Error.h"
 #include "common/FileLayer.h"
+#include "common/Host.h"
 #include "common/HostCalls.h"
 #include "common/TextEncoding.h"
 #include "common/clsCommon.h"
@@ -110,7 +111,7 @@ void clsSaveFile::WriteData(const std::string& fileName) {
   const double now = HostNow();
   Data("UpdateLog", clsCommon().AppVersion(), std::string(), LongDateText(now) + ", " + LongTimeText(now));
   if (m_DataBuffer.size() > LargestFile)
-    throw Error(ErrorNumber::InvalidArgument, "The case is larger than 16 MB: " + StoredPath(fileName));
+    throw Error(ErrorNumber::InvalidArgument, "The case is larger than 16 MB: " + NativePath(fileName));
   m_knownState = WriteWholeFile(fileName, m_DataBuffer, Durability::Flushed);
   m_knownName = StoredPath(fileName);
 }
