@@ -24,7 +24,7 @@ mkdir -p "$LOGS"
 
 PACKAGES=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
 [ $FULL -eq 1 ] && PACKAGES+=(clang clang-format libclang-rt-14-dev git libbenchmark-dev pkg-config python3-dev
-  pybind11-dev python3-matplotlib)
+  pybind11-dev python3-matplotlib python3-numpy python3-pip python3-venv python3-setuptools python3-wheel mypy abigail-tools)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
 check_format() {
@@ -39,7 +39,7 @@ check_installation() {
     cmake -S tests/install -B "$outside" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH="$prefix" &&
     cmake --build "$outside" --parallel "$JOBS" &&
     "$outside/outside" &&
-    sh tests/doors/check_installed.sh "$prefix" "$PYTHON"
+    sh tests/doors/check_installed.sh "$prefix" build/release "$PYTHON"
 }
 
 # The interpreter that the packages belong to, whatever else stands first in the path.
@@ -63,6 +63,7 @@ if [ $FULL -eq 1 ]; then
   step "build, clang" build_preset clang && test_preset clang
   step "form of the sources" check_format
   step "installation and outside programs" check_installation
+  step "Python package" sh tests/doors/python_package.sh "$PYTHON"
   step "demo" ./demo.sh
   step "recalculation of the engines' cases" "$PYTHON" tests/recalculation/recalculate.py --check
   step "benchmarks, allocations of a warm sheet" build/release/bench/orve_bench --benchmark_min_time=0.05
