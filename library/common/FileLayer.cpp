@@ -108,7 +108,7 @@ void RaiseFileError(ErrorNumber number, const std::string& path) {
 
 void RaiseNoPlainFile(const std::string& path) {
   throw Error(ErrorNumber::PathFileAccess,
-              "Path/File access error: " + StoredPath(path) + " isn't a plain file");
+              "Path/File access error: " + NativePath(path) + " isn't a plain file");
 }
 
 void RefuseLargeFile(std::size_t size, const std::string& path) {

@@ -85,8 +85,8 @@ class Faults : public CaseTest {
 
 TEST_F(Faults, AFullDiskLeavesTheOldFile) {
   const FullDisk disk(1000);
-  ExpectRefused([&] { root->Save(); }, 61, "Disk full: " + Stored("cases/old.wlc"));
-  ExpectRefused([&] { root->Save(); }, 61, "Disk full: " + Stored("cases/old.wlc"));
+  ExpectRefused([&] { root->Save(); }, 61, "Disk full: " + NativePath(Stored("cases/old.wlc")));
+  ExpectRefused([&] { root->Save(); }, 61, "Disk full: " + NativePath(Stored("cases/old.wlc")));
   EXPECT_EQ(FilesInCases(), 1) << "no temporary file is left";
 }
 
@@ -96,8 +96,9 @@ TEST_F(Faults, AProtectedFileOrFolderRefusesTheSave) {
   fs::permissions(folder / "cases", fs::perms(0777));
   fs::permissions(folder / "cases/old.wlc", fs::perms(0444));
   const OrdinaryUser user;
-  ExpectRefused([&] { root->Save(); }, 70, "Permission denied: " + Stored("cases/old.wlc"));
-  ExpectRefused([&] { SaveAs("closed/new.wlc"); }, 70, "Permission denied: " + Stored("closed/new.wlc"));
+  ExpectRefused([&] { root->Save(); }, 70, "Permission denied: " + NativePath(Stored("cases/old.wlc")));
+  ExpectRefused([&] { SaveAs("closed/new.wlc"); }, 70,
+                "Permission denied: " + NativePath(Stored("closed/new.wlc")));
 }
 
 TEST_F(Faults, AWritableFileInAClosedFolderIsWrittenInPlace) {
@@ -120,7 +121,7 @@ TEST_F(Faults, AFullDiskLeavesTheOldFileInPlaceToo) {
   root->Description(std::string(200000, 'x'));
   {
     const FullDisk disk(100000);
-    EXPECT_EQ(RaisedBy([&] { root->Save(); }).text, "Disk full: " + Stored("cases/old.wlc"));
+    EXPECT_EQ(RaisedBy([&] { root->Save(); }).text, "Disk full: " + NativePath(Stored("cases/old.wlc")));
   }
   EXPECT_EQ(ReadBytes(folder / "cases/link.wlc"), old);
   EXPECT_EQ(CopyPutAside(In("cases/old.wlc")), "");
@@ -260,12 +261,15 @@ TEST_F(Faults, PlacesThatAreNoFileRefuseTheSave) {
   fs::remove_all(folder / "vanished");
   root->Description("");
   root->Description("changed");
-  ExpectRefused([&] { SaveAs("folder.wlc"); }, 75, "Path/File access error: " + Stored("folder.wlc"));
-  ExpectRefused([&] { SaveAs("vanished/x.wlc"); }, 76, "Path not found: " + Stored("vanished/x.wlc"));
-  ExpectRefused([&] { SaveAs("cases/old.wlc/x"); }, 76, "Path not found: " + Stored("cases/old.wlc/x"));
+  ExpectRefused([&] { SaveAs("folder.wlc"); }, 75,
+                "Path/File access error: " + NativePath(Stored("folder.wlc")));
+  ExpectRefused([&] { SaveAs("vanished/x.wlc"); }, 76,
+                "Path not found: " + NativePath(Stored("vanished/x.wlc")));
+  ExpectRefused([&] { SaveAs("cases/old.wlc/x"); }, 76,
+                "Path not found: " + NativePath(Stored("cases/old.wlc/x")));
   fs::create_symlink("/dev/null", folder / "nothing.wlc");
   ExpectRefused([&] { SaveAs("nothing.wlc"); }, 75,
-                "Path/File access error: " + Stored("nothing.wlc") + " isn't a plain file");
+                "Path/File access error: " + NativePath(Stored("nothing.wlc")) + " isn't a plain file");
 }
 
 TEST_F(Faults, ASaveKeepsLinkAndMode) {
@@ -281,8 +285,7 @@ TEST_F(Faults, ASaveKeepsLinkAndMode) {
 }
 
 TEST_F(Faults, AFileThatCannotBeReadRaises) {
-  EXPECT_EQ(RaisedBy([&] { root->OpenExisting("/proc/self/mem"); }).text,
-            "Device I/O error: \\proc\\self\\mem");
+  EXPECT_EQ(RaisedBy([&] { root->OpenExisting("/proc/self/mem"); }).text, "Device I/O error: /proc/self/mem");
   fs::permissions(folder / "cases/old.wlc", fs::perms(0));
   {
     const OrdinaryUser user;
