@@ -271,6 +271,17 @@ orve_error orve_case_file_changed(bool* result) {
   }
 }
 
+orve_error orve_copy_put_aside(const char* name, char** result) {
+  const orve::LibraryFloatState state;
+  try {
+    RequireResult(result);
+    Give(result, orve::CopyPutAside(TextArgument(name, "name")));
+    return Succeeded();
+  } catch (...) {
+    return Failed();
+  }
+}
+
 orve_error orve_single_text(float value, char** result) {
   const orve::LibraryFloatState state;
   try {

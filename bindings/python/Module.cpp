@@ -141,6 +141,8 @@ PYBIND11_MODULE(_orve, module) {
     return TextToPython(NativePath(ResolveFileName(PathFromPython(name))));
   });
   module.def("case_file_exists", [](const py::object& name) { return CaseFileExists(PathFromPython(name)); });
+  module.def("copy_put_aside",
+             [](const py::object& name) { return TextToPython(CopyPutAside(PathFromPython(name))); });
   module.def("case_file_changed", [] { return CaseFileChanged(); });
   module.def("single_text", [](double value) { return ShortestText(static_cast<float>(value)); });
   module.def("double_text", [](double value) { return ShortestText(value); });

@@ -95,6 +95,9 @@ def case_file_exists(name: str | PathLike[str]) -> bool:
 def case_file_changed() -> bool:
     """True if the file of the open case isn't as the last opening or save of it here left it; ask before saving."""
 
+def copy_put_aside(name: str | PathLike[str]) -> str:
+    """The path of the copy that an interrupted save left of a file, if the file isn't the same; empty if there is none."""
+
 def single_text(value: float) -> str:
     """Shortest decimal text of a 32-bit value, as most members give it: 0.1 and not 0.10000000149011612."""
 
@@ -2151,6 +2154,7 @@ __all__ = [
     "clsInternalCoefficients",
     "clsOverallAppliedLoads",
     "clsWindCaseList",
+    "copy_put_aside",
     "double_text",
     "host",
     "native_path",

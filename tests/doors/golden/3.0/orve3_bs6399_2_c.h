@@ -57,6 +57,9 @@ ORVE_C_API orve_error orve_case_file_exists(const char* name, bool* result);
 /* True if the file of the open case isn't as the last opening or save of it here left it: changed, replaced or gone. Ask
  * before saving. */
 ORVE_C_API orve_error orve_case_file_changed(bool* result);
+/* The path of the copy that an interrupted save left of a file that it was writing in place, if the file isn't the same;
+ * empty if there is none. Errors: 75 for an empty name. */
+ORVE_C_API orve_error orve_copy_put_aside(const char* name, char** result);
 /* Shortest decimal text of a number, point as decimal sign, whatever the locale. */
 ORVE_C_API orve_error orve_single_text(float value, char** result);
 ORVE_C_API orve_error orve_double_text(double value, char** result);
