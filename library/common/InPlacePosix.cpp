@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t OwnerOnly = 0600;
+constexpr mode_t CopyMode = 0600;
 
 /// 0, or the error. Both files are taken from their first byte on.
 int CopyContent(int from, int to) {
@@ -67,7 +67,7 @@ class Copy {
 
  private:
   int MakeIn(const fs::path& folder, const std::string& name, int content, bool flush) {
-    NewFile made = CreateTemporary(folder, OwnerOnly);
+    NewFile made = CreateTemporary(folder, CopyMode);
     if (!made.fd) return made.cause;
     struct flock lock = WholeFileLock(F_WRLCK);
     ::fcntl(made.fd.Get(), F_SETLK, &lock);
