@@ -95,7 +95,7 @@ Quantity ExplainExternalCoefficient(const ZoneAddress& zone, bool suction) {
     coefficient.note = "entered by hand";
     return coefficient;
   }
-  TakeFigure(coefficient, zone, RequireBreCp(), suction);
+  TakeFigure(coefficient, zone, *RequireBreCp(), suction);
   return coefficient;
 }
 

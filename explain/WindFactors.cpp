@@ -77,7 +77,7 @@ class SectorFactors {
         m_sector(sector),
         m_site(*RequireCurrentCase().DynamicPressure()),
         m_component(RequireBreVe()),
-        m_sources(dynamic_cast<const WindSpeedSources*>(&m_component)) {}
+        m_sources(dynamic_cast<const WindSpeedSources*>(m_component.get())) {}
 
   Quantity Pressure(const std::string& symbol) const {
     const float value = m_site.DynamicPressure_q(m_ownArea, m_sector);
@@ -110,7 +110,7 @@ class SectorFactors {
     Quantity ca = Number(symbol, "size effect factor", m_site.SizeEffectFactor_Ca(m_ownArea, m_sector));
     if (m_site.ManualResults()) return ByHand(std::move(ca));
     ca.clause = "Figure 4";
-    const float a = m_component.A();
+    const float a = m_component->A();
     Add(ca, m_ownArea == WindAreas::waInternal ? InternalDiagonal() : AreaDiagonal(a));
     ca = FromComponent(std::move(ca));
     if (!(a > 0)) {
@@ -131,7 +131,7 @@ class SectorFactors {
   Quantity EffectiveHeight() const {
     Quantity he = Factor("He", "effective height", &clsDynamicPressure::EffectiveHeight_He, WindFactor::He,
                          "1.7.3", kMetres);
-    const float height = m_component.H();
+    const float height = m_component->H();
     Add(he, Input(Number("Hr", MeasuresOf(m_area).height, height, kMetres)));
     Add(he, Displacement());
     if (m_sources) SetFormula(he, "max(Hr - Hd, 0.4 \u00D7 Hr)");
@@ -284,7 +284,7 @@ class SectorFactors {
     }
     gt = FromComponent(std::move(gt), Source(WindFactor::gt));
     WarnOfSource(gt);
-    const float a = m_component.A();
+    const float a = m_component->A();
     Add(gt, AreaDiagonal(a));
     Add(gt, siteSpeed);
     for (const char* factor : {"Sc", "Tc", "Sh"}) Add(gt, Part(sb, factor));
@@ -344,7 +344,7 @@ class SectorFactors {
   WindAreas m_ownArea;
   WindSectors m_sector;
   clsDynamicPressure& m_site;
-  const BVe2X& m_component;
+  std::shared_ptr<const BVe2X> m_component;
   const WindSpeedSources* m_sources;
 };
 

@@ -171,7 +171,8 @@ Quantity ExplainZoneSize(const ZoneAddress& zone) {
   const ZoneDimensionsXY lengths = external->Hybrid_ZoneDimensionsXY(area, face, index, screen);
   const bool sameZones = external->ZoneIndexTo(area, face, screen) == external->ZoneIndexTo(area, face);
   Lengths rule;
-  const BreCpX& component = RequireBreCp();
+  const auto held = RequireBreCp();
+  const BreCpX& component = *held;
   if (!external->ManualResults() && sameZones) {
     external->Hybrid_ExternalCoefficientFactor_Cpe_Pressure(area, face, index);
     const Selected selected{component.TypeIndex(), component.ZoneString(),

@@ -31,9 +31,10 @@ extern "C" {
 #endif
 
 /* 0, or the number of an error: 5 invalid argument (a null pointer where a text, record or result is wanted), 6
- * overflow, 7 out of memory, 9 subscript out of range, 11 division by zero, 13 type mismatch, 53 to 76 file
- * system, 91 object not set (a null handle, one that has been released, or one of another class), 429 class
- * can't be created, 440 an exception that isn't the library's. A function that fails leaves its results alone. */
+ * overflow, 7 out of memory, 9 subscript out of range, 11 division by zero, 13 type mismatch, 28 an event raised in
+ * its own handlers without end, 53 to 76 file system, 91 object not set (a null handle, one that has been released,
+ * or one of another class), 429 class can't be created, 440 an exception that isn't the library's. A function that
+ * fails leaves its results alone. */
 typedef int32_t orve_error;
 
 /* Text of the last error on this thread, in full; empty if its last call succeeded. It stays until the thread's

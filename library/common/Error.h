@@ -13,6 +13,7 @@ enum class ErrorNumber : int {
   SubscriptOutOfRange = 9,
   DivisionByZero = 11,
   TypeMismatch = 13,
+  OutOfStackSpace = 28,
   FileNotFound = 53,
   DeviceIO = 57,
   DiskFull = 61,

@@ -1,10 +1,13 @@
 // Synchronous events: callbacks that run inside the call that raises them.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
+
+#include "common/Error.h"
 
 namespace orve {
 
@@ -25,35 +28,83 @@ class [[nodiscard]] Connection {
   std::shared_ptr<void> m_slot;
 };
 
+/// Counts how deep an event's raisings are nested, so that one without end can't exhaust the host's stack.
+class EventNesting {
+ public:
+  explicit EventNesting(int deepest) : m_deepest(deepest) {}
+
+  /// One raising under way. Errors: 28 for a raising within as many others of the same event as are allowed,
+  /// and from then on for every further one until the outermost has returned.
+  class Raising {
+   public:
+    explicit Raising(EventNesting& nesting) : m_nesting(nesting) {
+      if (m_nesting.m_depth >= m_nesting.m_deepest) m_nesting.m_exhausted = true;
+      if (m_nesting.m_exhausted)
+        throw Error(ErrorNumber::OutOfStackSpace,
+                    "Out of stack space: the event is raised in its own handlers");
+      ++m_nesting.m_depth;
+    }
+    ~Raising() {
+      if (--m_nesting.m_depth == 0) m_nesting.m_exhausted = false;
+    }
+    Raising(const Raising&) = delete;
+    Raising& operator=(const Raising&) = delete;
+
+   private:
+    EventNesting& m_nesting;
+  };
+
+  bool UnderWay() const { return m_depth > 0; }
+
+ private:
+  int m_deepest;
+  int m_depth = 0;
+  bool m_exhausted = false;
+};
+
 /// An event with the arguments `Arguments`; a by-reference argument is written `bool&`.
 template <class... Arguments>
 class Event {
  public:
   using Callback = std::function<void(Arguments...)>;
 
-  Event() = default;
+  /// How many raisings of the event may be nested.
+  static constexpr int Deepest = 200;
+
+  explicit Event(int deepest = Deepest) : m_state(std::make_shared<State>(deepest)) {}
   Event(const Event&) = delete;
   Event& operator=(const Event&) = delete;
 
   /// Connects a callback; it is disconnected when the returned connection goes.
   Connection Connect(Callback callback) {
     auto slot = std::make_shared<Callback>(std::move(callback));
-    std::erase_if(m_slots, [](const auto& weak) { return weak.expired(); });
-    m_slots.push_back(slot);
+    // The positions of the slots stand while they are walked.
+    if (!m_state->nesting.UnderWay())
+      std::erase_if(m_state->slots, [](const auto& weak) { return weak.expired(); });
+    m_state->slots.push_back(slot);
     return Connection(std::move(slot));
   }
 
   /// Calls the callbacks in the order of their connection. A callback may connect, disconnect, call back into
   /// the library or let go of the event's owner; an exception passes through unchanged and the callbacks
-  /// behind it aren't called.
+  /// after it aren't called. Errors: 28 if the event is raised in its own callbacks without end.
   void Raise(Arguments... arguments) const {
-    const std::vector<std::weak_ptr<Callback>> slots = m_slots;
-    for (const auto& weak : slots)
-      if (const auto slot = weak.lock()) (*slot)(arguments...);
+    const std::shared_ptr<State> state = m_state;
+    const EventNesting::Raising raising(state->nesting);
+    const std::size_t count = state->slots.size();
+    for (std::size_t index = 0; index < count; ++index)
+      if (const auto slot = state->slots[index].lock()) (*slot)(arguments...);
   }
 
  private:
-  std::vector<std::weak_ptr<Callback>> m_slots;
+  struct State {
+    explicit State(int deepest) : nesting(deepest) {}
+
+    std::vector<std::weak_ptr<Callback>> slots;
+    EventNesting nesting;
+  };
+
+  std::shared_ptr<State> m_state;
 };
 
 }  // namespace orve

@@ -44,7 +44,7 @@ void StartBreVe() {
     if (fallback)
       basBS6399_2::BreVe = ComponentClasses().CreateWindSpeed(WindSpeedFallbackClass);
     else
-      RequireBreVe().datapath(ComponentDataFolder());
+      RequireBreVe()->datapath(ComponentDataFolder());
   });
 }
 
@@ -53,7 +53,7 @@ void StartBreCp() {
       CannotCreate([] { basBS6399_2::BreCp = ComponentClasses().CreateCoefficients(CoefficientClass); });
   if (!fallback) return;
   CannotCreate([] { basBS6399_2::BreCp = ComponentClasses().CreateCoefficients(CoefficientFallbackClass); });
-  CannotCreate([] { RequireBreCp().datapath(ComponentDataFolder()); });
+  CannotCreate([] { RequireBreCp()->datapath(ComponentDataFolder()); });
 }
 
 }  // namespace
@@ -67,30 +67,30 @@ void StartComponents() {
 
 void clsCurrentCase::Initialize_BreApps() {
   BreOSDatabase(true);
-  BVe2X& breVe = RequireBreVe();
-  breVe.AutoWizard(true);
-  breVe.AutoSite(true);
-  breVe.Tick(0);
-  breVe.SiteAltWarn(false);
-  BreCpX& breCp = RequireBreCp();
-  breCp.AutoBreadth(true);
-  breCp.Reporting(0);
+  const auto breVe = RequireBreVe();
+  breVe->AutoWizard(true);
+  breVe->AutoSite(true);
+  breVe->Tick(0);
+  breVe->SiteAltWarn(false);
+  const auto breCp = RequireBreCp();
+  breCp->AutoBreadth(true);
+  breCp->Reporting(0);
 }
 
 std::string clsCurrentCase::breDataPath() const {
-  return RequireBreVe().datapath();
+  return RequireBreVe()->datapath();
 }
 
 void clsCurrentCase::breDataPath(const std::string& value) {
-  if (OldBreVeVersion()) RequireBreVe().datapath(value);
+  if (OldBreVeVersion()) RequireBreVe()->datapath(value);
 }
 
 bool clsCurrentCase::OldBreVeVersion() const {
-  return RequireBreVe().TypeName() == OldWindSpeedType;
+  return RequireBreVe()->TypeName() == OldWindSpeedType;
 }
 
 bool clsCurrentCase::OldBreCpVersion() const {
-  return RequireBreCp().TypeName() == OldCoefficientType;
+  return RequireBreCp()->TypeName() == OldCoefficientType;
 }
 
 }  // namespace orve

@@ -121,8 +121,8 @@ void clsCurrentCase::ConnectSaveFile() {
         with([&](auto& self) { self.m_iclsSaveFile_OpenFile(name, cancel); });
       });
   m_saveFileConnections->saveFile =
-      m_iclsSaveFile->SaveFileEvent.Connect([with](const std::string& name, bool&) {
-        with([&](auto& self) { self.m_iclsSaveFile_SaveFile(name); });
+      m_iclsSaveFile->SaveFileEvent.Connect([with](const std::string& name, bool& cancel) {
+        with([&](auto& self) { self.m_iclsSaveFile_SaveFile(name, cancel); });
       });
 }
 

@@ -1,7 +1,10 @@
 // How a let stores a changed value and marks the case dirty.
 #pragma once
 
+#include <utility>
+
 #include "common/Differs.h"
+#include "core/OwedSteps.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 
@@ -12,14 +15,13 @@ inline void MarkDirty() {
   RequireCurrentCase().IsDirty(true);
 }
 
-/// Stores a value that differs and marks the case dirty; false if the value was there already. A handler of
-/// `DirtyUpdated` may let go of the object that holds the field.
-template <class Field, class Value>
-bool StoreAndMarkDirty(Field& field, const Value& value) {
-  if (!Differs(field, value)) return false;
+/// Stores a value that differs, marks the case dirty and takes the steps that the let owes besides. A handler
+/// of `DirtyUpdated` may let go of the object that holds the field.
+template <class Field, class Value, class... Steps>
+void StoreAndMarkDirty(Field& field, const Value& value, Steps&&... owed) {
+  if (!Differs(field, value)) return;
   field = value;
-  MarkDirty();
-  return true;
+  RunAll(MarkDirty, std::forward<Steps>(owed)...);
 }
 
 }  // namespace orve

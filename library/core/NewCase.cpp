@@ -1,4 +1,6 @@
 // A new case: the one place that makes all the data objects.
+#include "core/OwedSteps.h"
+#include "core/WithoutDefaults.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
 #include "external/clsExternalCoefficients.h"
@@ -13,24 +15,48 @@
 
 namespace orve {
 
-void clsCurrentCase::Clear() {
-  const auto self = shared_from_this();
-  if (m_iclsSaveFile->NewFile()) ApplyParentContext();
+namespace {
+
+void ForgetSite() {
+  const auto component = basBS6399_2::BreVe;
+  if (auto* state = dynamic_cast<SiteState*>(component.get())) state->ForgetSite();
 }
 
+}  // namespace
+
+void clsCurrentCase::Clear() {
+  StartNewCase();
+}
+
+bool clsCurrentCase::StartNewCase() {
+  const auto self = shared_from_this();
+  bool stands = true;
+  OwedSteps steps;
+  steps.Run([&] { stands = m_iclsSaveFile->NewFile(); });
+  const Document document(*m_iclsSaveFile);
+  if (stands) steps.Run([&] { ApplyParentContext(); });
+  steps.Finish();
+  return stands && document.IsOpen();
+}
+
+// The objects come one after the other, each with its defaults; a handler sees those made so far.
 void clsCurrentCase::m_iclsSaveFile_NewFile() {
   BreCp_Dirty(false);
   BreVe_Dirty(false);
-  Description("");
-  SetCreated(0);
-  SetModified(0);
-  if (auto* state = dynamic_cast<SiteState*>(basBS6399_2::BreVe.get())) state->ForgetSite();
-  m_BuildingDimensions = std::make_shared<clsBuildingDimensions>();
-  m_DynamicPressure = std::make_shared<clsDynamicPressure>();
-  m_ExternalCoefficients = std::make_shared<clsExternalCoefficients>();
-  m_InternalCoefficients = std::make_shared<clsInternalCoefficients>();
-  m_OverallAppliedLoads = std::make_shared<clsOverallAppliedLoads>();
-  m_CantileverWindloads = std::make_shared<clsCantileverWindLoads>();
+  RunAll([this] { Description(""); },  //
+         [this] { SetCreated(0); },    //
+         [this] { SetModified(0); },   //
+         [] { ForgetSite(); },         //
+         [this] { Renew(m_BuildingDimensions); }, [this] { Renew(m_DynamicPressure); },
+         [this] { Renew(m_ExternalCoefficients); }, [this] { Renew(m_InternalCoefficients); },
+         [this] { Renew(m_OverallAppliedLoads); },
+         [this] { m_CantileverWindloads = std::make_shared<clsCantileverWindLoads>(); });
+}
+
+template <class Object>
+void clsCurrentCase::Renew(std::shared_ptr<Object>& place) {
+  const std::shared_ptr<Object> object(new Object(WithoutDefaults()));
+  RunAll([&] { object->ApplyDefaults(); }, [&] { place = object; });
 }
 
 }  // namespace orve

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "common/Narrow.h"
+#include "core/OwedSteps.h"
 #include "core/Required.h"
 #include "core/clsCurrentCase.h"
 #include "geometry/MemberDiagonal.h"
@@ -64,38 +65,44 @@ float DiagonalOf(Sides sides, const clsCurrentCase& parent) {
 
 void SetBuilding(clsBuildingDimensions& building, const PrefillRow& row, float diagonal,
                  const clsCurrentCase& parent) {
-  building.ConsiderRoof(row.Roof);
-  building.ConsiderWalls(row.Walls);
-  building.ConsiderCantilever(row.Cantilever);
-  building.ConsiderParapet(row.Parapet);
+  using B = clsBuildingDimensions;
+  OwedLets<B> let(building);
+  let(&B::ConsiderRoof, row.Roof);
+  let(&B::ConsiderWalls, row.Walls);
+  let(&B::ConsiderCantilever, row.Cantilever);
+  let(&B::ConsiderParapet, row.Parapet);
   switch (row.Set) {
     case Values::Roof:
-      building.Roof_Diagonal(diagonal);
-      building.Roof_Pitch(parent.Parent_RoofPitch());
+      let(&B::Roof_Diagonal, diagonal);
+      let(&B::Roof_Pitch, parent.Parent_RoofPitch());
       break;
     case Values::Walls:
-      building.Wall_GableDiagonal(diagonal);
-      building.Wall_SideDiagonal(building.Wall_GableDiagonal());
+      let(&B::Wall_GableDiagonal, diagonal);
+      let(&B::Wall_SideDiagonal, building.Wall_GableDiagonal());
       break;
     case Values::EavesBeam:
-      building.Roof_Diagonal(0);
-      building.Roof_Pitch(parent.Parent_RoofPitch());
-      building.Wall_GableDiagonal(0);
-      building.Wall_SideDiagonal(0);
+      let(&B::Roof_Diagonal, 0);
+      let(&B::Roof_Pitch, parent.Parent_RoofPitch());
+      let(&B::Wall_GableDiagonal, 0);
+      let(&B::Wall_SideDiagonal, 0);
       break;
     case Values::Parapet:
-      building.Parapet_Height(parent.Parent_HeightOfPost_m());
-      building.Parapet_HeightFromFFL_m(parent.Parent_HeightToTopOfPostFromFFL_m());
-      building.Parapet_SideDiagonal(diagonal);
-      building.Parapet_GableDiagonal(diagonal);
+      let(&B::Parapet_Height, parent.Parent_HeightOfPost_m());
+      let(&B::Parapet_HeightFromFFL_m, parent.Parent_HeightToTopOfPostFromFFL_m());
+      let(&B::Parapet_SideDiagonal, diagonal);
+      let(&B::Parapet_GableDiagonal, diagonal);
       break;
   }
+  let.Finish();
 }
 
 void SetSpans(clsOverallAppliedLoads& loads, float roofSpan, float span) {
+  OwedLets<clsOverallAppliedLoads> let(loads);
   for (const auto area : {BuildingAreas::baRoof, BuildingAreas::baWalls, BuildingAreas::baParapet})
     for (const auto face : {Faces::Face_1, Faces::Face_2, Faces::Face_3, Faces::Face_4})
-      loads.SteppedWind_Span(area, face, area == BuildingAreas::baRoof ? roofSpan : span);
+      let(&clsOverallAppliedLoads::SteppedWind_Span, area, face,
+          area == BuildingAreas::baRoof ? roofSpan : span);
+  let.Finish();
 }
 
 }  // namespace
@@ -104,6 +111,7 @@ void clsCurrentCase::ApplyParentContext() {
   const auto self = weak_from_this().lock();  // A handler may put another root in this one's place.
   if (!m_iclsSaveFile->Blank() || IsDirty()) return;
   const ParentTypes type = Parent_Type();
+  CaseSteps steps;
   if (type != ParentTypes::None) {
     const auto building = Required(BuildingDimensions(), "BuildingDimensions");
     const auto loads = Required(OverallAppliedLoads(), "OverallAppliedLoads");
@@ -114,10 +122,14 @@ void clsCurrentCase::ApplyParentContext() {
         type == ParentTypes::Purlin_Continuous_Single || type == ParentTypes::Purlin_Continuous_Double;
     const float span = Parent_Span();
     const float roofSpan = continuous ? ToSingle(2 * static_cast<double>(span)) : span;
-    if (row != std::end(Prefill)) SetBuilding(*building, *row, DiagonalOf(row->DiagonalOf, *this), *this);
-    SetSpans(*loads, roofSpan, span);
+    if (row != std::end(Prefill)) {
+      const float diagonal = DiagonalOf(row->DiagonalOf, *this);
+      steps.Run([&] { SetBuilding(*building, *row, diagonal, *this); });
+    }
+    steps.Run([&] { SetSpans(*loads, roofSpan, span); });
   }
-  IsDirty(false);
+  steps.Run([&] { IsDirty(false); });
+  steps.Finish();
 }
 
 }  // namespace orve

@@ -22,25 +22,21 @@ std::shared_ptr<BreCpX> BreCp;
 namespace {
 
 template <class Object>
-Object& Require(const std::shared_ptr<Object>& object, const char* what) {
+const std::shared_ptr<Object>& Require(const std::shared_ptr<Object>& object, const char* what) {
   if (!object) throw Error(ErrorNumber::ObjectNotSet, std::string("There is no ") + what);
-  return *object;
+  return object;
 }
 
 }  // namespace
 
-BVe2X& RequireBreVe() {
+std::shared_ptr<BVe2X> RequireBreVe() {
   return Require(basBS6399_2::BreVe, "wind-speed component");
 }
-std::shared_ptr<BVe2X> HeldBreVe() {
-  RequireBreVe();
-  return basBS6399_2::BreVe;
-}
-BreCpX& RequireBreCp() {
+std::shared_ptr<BreCpX> RequireBreCp() {
   return Require(basBS6399_2::BreCp, "pressure-coefficient component");
 }
 clsCurrentCase& RequireCurrentCase() {
-  return Require(basBS6399_2::CurrentCase, "current case");
+  return *Require(basBS6399_2::CurrentCase, "current case");
 }
 
 }  // namespace orve

@@ -23,11 +23,10 @@ extern std::shared_ptr<BreCpX> BreCp;
 
 }  // namespace basBS6399_2
 
-/// The components, for the members that need them. Errors: 91 if there is none.
-BVe2X& RequireBreVe();
-BreCpX& RequireBreCp();
-/// The same, held by a caller whose work can raise events: a host's handler may put another one in its place.
-std::shared_ptr<BVe2X> HeldBreVe();
+/// The components, held by the caller for as long as it works on them: a handler or the component itself may
+/// put another one in its place. Errors: 91 if there is none.
+std::shared_ptr<BVe2X> RequireBreVe();
+std::shared_ptr<BreCpX> RequireBreCp();
 /// The root object. Errors: 91 if there is none.
 clsCurrentCase& RequireCurrentCase();
 

@@ -11,6 +11,7 @@
 namespace orve {
 
 class CaseSection;
+class Document;
 class clsBuildingDimensions;
 class clsCantileverWindLoads;
 class clsDynamicPressure;
@@ -110,13 +111,16 @@ class clsCurrentCase : public std::enable_shared_from_this<clsCurrentCase> {
   void Initialize_BreApps();
   /// Starts a new, blank case. No question is asked, even with unsaved changes.
   void Clear();
-  /// Asks the user for a file and opens it; True if a case was opened. Errors: those of reading.
+  /// Asks the user for a file and opens it; True if a case was opened, False also if a handler has put
+  /// another case in its place. Errors: those of reading.
   bool Browse();
-  /// Opens a file; True if a case was opened. Errors: those of reading.
+  /// Opens a file; result and errors as for `Browse`.
   bool OpenExisting(const std::string& fileNameToOpen);
-  /// Saves under the present `Location`; with none, asks for a name. Errors: those of writing.
+  /// Saves under the present `Location`; with none, asks for a name. A case that a handler put in the place
+  /// of the one that was saved doesn't get its name. Errors: those of writing; 5 if that happened before the
+  /// file was written, or while a new case is being made.
   void Save();
-  /// Always asks for a name. Errors: those of writing.
+  /// Always asks for a name. Errors: as for `Save`.
   void SaveAs();
   /// True if the type name of the wind-speed component is "BVe2X", of the coefficient component "BreCpX".
   /// Errors: 91 without a component.
@@ -137,6 +141,7 @@ class clsCurrentCase : public std::enable_shared_from_this<clsCurrentCase> {
  private:
   friend std::shared_ptr<clsCurrentCase> CreateCurrentCase();
   friend bool CaseFileChanged();
+  friend class Document;
   friend class clsBuildingDimensions;
   friend class clsDynamicPressure;
   friend class clsExternalCoefficients;
@@ -155,9 +160,15 @@ class clsCurrentCase : public std::enable_shared_from_this<clsCurrentCase> {
   void WalkCaseSection(CaseSection& section);
   void ReadCaseFile();
   void WriteCaseFile();
+  // True if the new case stands: a handler may have put another document in its place.
+  bool StartNewCase();
+  template <class Object>
+  void Renew(std::shared_ptr<Object>& place);
   void m_iclsSaveFile_NewFile();
+  bool ReadUnlessReplaced(const Document& document);
   void m_iclsSaveFile_OpenFile(const std::string& fileName, bool& cancel);
-  void m_iclsSaveFile_SaveFile(const std::string& fileName);
+  void m_iclsSaveFile_SaveFile(const std::string& fileName, bool& cancel);
+  void KeepInRecentList(const std::string& fileName);
 
   bool m_BreCp_Dirty = false;
   bool m_BreVe_Dirty = false;

@@ -4,6 +4,7 @@
 #include "common/NumberText.h"
 #include "common/clsCommon.h"
 #include "core/CaseObjects.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "core/Ranges.h"
 #include "external/BreCpX.h"
@@ -43,9 +44,10 @@ float& clsExternalCoefficients::ManualCpe(ManualTable& table, const ZoneAddress&
 
 // The zone's coefficient as the component gives it for one of the two cases.
 float clsExternalCoefficients::ComponentCpe(const ZoneAddress& zone, bool suction) {
-  BuildZoneTable(zone.area, zone.face, ResultsScreens(-1));
-  const ZoneRecord& record = ZoneAt(zone.zone);
-  BreCpX& component = RequireBreCp();
+  const auto held = RequireBreCp();
+  BreCpX& component = *held;
+  BuildZoneTable(component, zone.area, zone.face, ResultsScreens(-1));
+  const ZoneRecord record = ZoneAt(zone.zone);
   component.Theta(record.Theta);
   component.ZoneIndex(record.ComponentZoneIndex);
   if (IsRoofOrWalls(zone.area)) {
@@ -73,6 +75,7 @@ float clsExternalCoefficients::ApplyBayFactor(float coefficient, const ZoneAddre
 float clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Pressure(BuildingAreas buildingArea,
                                                                              Faces face,
                                                                              std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const ZoneAddress zone = Resolve(buildingArea, face, zoneIndex);
   if (ManualResults()) return ManualCpe(m_ManualCpe_Pressure, zone);
   return ApplyBayFactor(ComponentCpe(zone, false), zone);
@@ -91,6 +94,7 @@ void clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Pressure(Buil
 float clsExternalCoefficients::Hybrid_ExternalCoefficientFactor_Cpe_Suction(BuildingAreas buildingArea,
                                                                             Faces face,
                                                                             std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const ZoneAddress zone = Resolve(buildingArea, face, zoneIndex);
   if (ManualResults()) return ManualCpe(m_ManualCpe_Suction, zone);
   return ApplyBayFactor(ComponentCpe(zone, true), zone);
@@ -119,6 +123,7 @@ WindAreas clsExternalCoefficients::WindAreaOf(BuildingAreas buildingArea, Faces 
 
 WorstCase clsExternalCoefficients::Hybrid_WorstCaseSearch(BuildingAreas buildingArea, Faces face,
                                                           std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const BuildingAreas area = Resolve(buildingArea);
   const Faces onFace = Resolve(face);
   const WindAreas windArea = WindAreaOf(area, onFace);
@@ -142,6 +147,7 @@ float clsExternalCoefficients::Hybrid_WorstCase_SizeEffectFactor_Ca(BuildingArea
 
 float clsExternalCoefficients::Hybrid_ExternalAppliedLoad_Pressure(BuildingAreas buildingArea, Faces face,
                                                                    std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   const double ca = Hybrid_WorstCase_SizeEffectFactor_Ca(area, onFace, zone);
   const double cpe = Hybrid_ExternalCoefficientFactor_Cpe_Pressure(area, onFace, zone);
@@ -151,6 +157,7 @@ float clsExternalCoefficients::Hybrid_ExternalAppliedLoad_Pressure(BuildingAreas
 
 float clsExternalCoefficients::Hybrid_ExternalAppliedLoad_Suction(BuildingAreas buildingArea, Faces face,
                                                                   std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   const double ca = Hybrid_WorstCase_SizeEffectFactor_Ca(area, onFace, zone);
   const double cpe = Hybrid_ExternalCoefficientFactor_Cpe_Suction(area, onFace, zone);
@@ -160,6 +167,7 @@ float clsExternalCoefficients::Hybrid_ExternalAppliedLoad_Suction(BuildingAreas 
 
 std::string clsExternalCoefficients::Hybrid_ExternalAppliedLoads(BuildingAreas buildingArea, Faces face,
                                                                  std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   std::string pressure;
   if (IsPresent(Hybrid_ExternalCoefficientFactor_Cpe_Pressure(area, onFace, zone)))

@@ -3,7 +3,6 @@
 #include "common/Narrow.h"
 #include "common/clsCommon.h"
 #include "core/Ranges.h"
-#include "core/basBS6399_2.h"
 #include "sitewind/clsDynamicPressure.h"
 
 namespace orve {
@@ -27,7 +26,7 @@ class Walk {
 
   // An end of the window that lies between two sectors; it is measured against Best, which stays.
   void TakeEnd(std::int16_t sector1, std::int16_t sector2, float angle) {
-    const clsCommon& common = *basBS6399_2::Common;
+    const clsCommon common;
     const float angle1 = ToInt16(common.IndexToAngle(sector1));
     const float angle2 = ToInt16(common.IndexToAngle(sector2));
     const float q1 = Pressure(sector1);
@@ -70,7 +69,7 @@ std::int16_t Neighbour(std::int16_t sector, int step) {
 }
 
 void WalkWindow(Walk& walk, float normal) {
-  const clsCommon& common = *basBS6399_2::Common;
+  const clsCommon common;
   const float from = normal - HalfWindow;
   const float to = normal + HalfWindow;
   const bool onSector = common.FractionalMod(from, SectorWidth) == 0;

@@ -174,10 +174,9 @@ Row ZoneRow(std::int32_t typeIndex, const Zone& zone, const BreCpX& component,
 
 }  // namespace
 
-bool clsExternalCoefficients::CalculateZoneExtent(ZoneExtent& extent, ResultsScreens resultsScreen,
-                                                  bool warning) const {
+bool clsExternalCoefficients::CalculateZoneExtent(const BreCpX& component, ZoneExtent& extent,
+                                                  ResultsScreens resultsScreen, bool warning) {
   const auto building = CaseBuildingDimensions();
-  const BreCpX& component = RequireBreCp();
   const bool takeOff =
       building->ConsiderCantilever() && resultsScreen == ResultsScreens::Overall_Applied_Loads && !warning;
   const double c12 = takeOff ? building->CantileverFace1Or2_Length() : 0.0;

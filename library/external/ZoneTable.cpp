@@ -124,55 +124,63 @@ float WallGap(const clsBuildingDimensions& building, Faces face) {
 
 void clsExternalCoefficients::BuildZoneTable(BuildingAreas buildingArea, Faces face,
                                              ResultsScreens resultsScreen) {
+  BuildZoneTable(*RequireBreCp(), buildingArea, face, resultsScreen);
+}
+
+void clsExternalCoefficients::BuildZoneTable(BreCpX& component, BuildingAreas buildingArea, Faces face,
+                                             ResultsScreens resultsScreen) {
   const BuildingAreas area = Resolve(buildingArea);
   const Faces onFace = Resolve(face);
   const bool warning = CaseOverallAppliedLoads()->CantileverZoneWidthWarning(area, onFace);
   const ResultsScreens screen =
       resultsScreen == ResultsScreens(-1) ? ResultsScreens::External_Coefficient : resultsScreen;
-  SendMethod();
+  SendMethod(component);
   switch (area) {
     case BuildingAreas::baRoof:
-      SetUpRoof();
+      SetUpRoof(component);
       break;
     case BuildingAreas::baWalls:
-      SetUpWalls();
+      SetUpWalls(component);
       break;
     case BuildingAreas::baParapet:
-      SetUpParapet(onFace);
+      SetUpParapet(component, onFace);
       break;
     default:
       break;
   }
   m_ZoneTable.clear();
-  switch (RequireBreCp().TypeIndex()) {
+  switch (component.TypeIndex()) {
     case WallsType:
-      ScanWalls(onFace, warning);
+      ScanWalls(component, onFace, warning);
       break;
     case MonoPitchedType:
-      ScanMonoPitchedRoof(onFace, screen, warning);
+      ScanMonoPitchedRoof(component, onFace, screen, warning);
       break;
     case ParapetType:
-      ScanParapet(warning);
+      ScanParapet(component, warning);
       break;
     default:
-      ScanOtherRoof(onFace, screen, warning);
+      ScanOtherRoof(component, onFace, screen, warning);
       break;
   }
 }
 
 // The component counts the methods the other way round.
-void clsExternalCoefficients::SendMethod() {
-  clsCurrentCase& root = RequireCurrentCase();
-  if (!root.BreCp_Dirty()) return;
+void clsExternalCoefficients::SendMethod(BreCpX& component) {
+  clsCurrentCase& present = RequireCurrentCase();
+  const auto isOpenCases = [&] { return present.m_ExternalCoefficients.get() == this; };
+  if (isOpenCases() && !present.BreCp_Dirty()) return;
+  const auto root = present.shared_from_this();
   const Methods method = CaseDynamicPressure()->Method();
-  if (method == Methods::Directional) RequireBreCp().Method(1);
-  if (method == Methods::Hybrid) RequireBreCp().Method(0);
-  root.BreCp_Dirty(false);
+  root->BreCp_Dirty(true);
+  if (method == Methods::Directional) component.Method(1);
+  if (method == Methods::Hybrid) component.Method(0);
+  // After another object has worked on the component, the open case's own sends the method anew.
+  root->BreCp_Dirty(!isOpenCases());
 }
 
-void clsExternalCoefficients::SetUpRoof() {
+void clsExternalCoefficients::SetUpRoof(BreCpX& component) {
   const auto building = CaseBuildingDimensions();
-  BreCpX& component = RequireBreCp();
   const Shape shape = RoofShape(*building);
   SendShape(component, shape);
   component.Dim_H(RoofDimH(*building, shape));
@@ -181,15 +189,13 @@ void clsExternalCoefficients::SetUpRoof() {
   component.Solidity(0);
 }
 
-void clsExternalCoefficients::SetUpWalls() {
-  BreCpX& component = RequireBreCp();
+void clsExternalCoefficients::SetUpWalls(BreCpX& component) {
   SendShape(component, {.TypeIndex = WallsType});
   component.Solidity(0);
 }
 
-void clsExternalCoefficients::SetUpParapet(Faces face) {
+void clsExternalCoefficients::SetUpParapet(BreCpX& component, Faces face) {
   const auto building = CaseBuildingDimensions();
-  BreCpX& component = RequireBreCp();
   SendShape(component, {.TypeIndex = ParapetType});
   component.Dim_H(building->Parapet_Height());
   component.Dim_gap(0);
@@ -204,92 +210,93 @@ void clsExternalCoefficients::SetUpParapet(Faces face) {
   component.Solidity(1);
 }
 
-void clsExternalCoefficients::ScanWalls(Faces face, bool warning) {
+void clsExternalCoefficients::ScanWalls(BreCpX& component, Faces face, bool warning) {
   const auto building = CaseBuildingDimensions();
-  BreCpX& component = RequireBreCp();
   const PlanLengths plan = WallPlanLengths(*building, face);
   if (IsFace(face)) SendPlanLengths(component, plan);
   component.Dim_H(GableFace(face) ? building->Wall_GableHeight() : building->Wall_SideHeight());
   component.Dim_gap(0);
-  AppendFixedWallZone(0, "Windward");
-  AppendFixedWallZone(180, "Leeward");
+  AppendFixedWallZone(component, 0, "Windward");
+  AppendFixedWallZone(component, 180, "Leeward");
   if (!IsFace(face)) return;
   SendPlanLengths(component, plan);
   component.Dim_gap(WallGap(*building, face));
   component.Theta(90);
-  AddComponentZones(IsFace1Or3(face) ? " (face 2)" : " (face 1)", ResultsScreens(-1), warning);
+  AddComponentZones(component, IsFace1Or3(face) ? " (face 2)" : " (face 1)", ResultsScreens(-1), warning);
   component.Theta(270);
-  AddComponentZones(IsFace1Or3(face) ? " (face 4)" : " (face 3)", ResultsScreens(-1), warning);
+  AddComponentZones(component, IsFace1Or3(face) ? " (face 4)" : " (face 3)", ResultsScreens(-1), warning);
 }
 
-void clsExternalCoefficients::AppendFixedWallZone(double theta, const char* description) {
-  BreCpX& component = RequireBreCp();
+void clsExternalCoefficients::AppendFixedWallZone(BreCpX& component, double theta, const char* description) {
   component.Theta(theta);
   component.ZoneIndex(0);
   if (!component.Valid()) return;
-  ZoneRecord& zone = AppendZone(0);
+  ZoneRecord zone = ReadZone(component, 0);
   zone.Description = description;
-  ReadBackDimensions(zone);
+  ReadBackDimensions(component, zone);
   const float breadth = component.Breadth();
   zone.Extent = {false, breadth, breadth};
+  m_ZoneTable.push_back(std::move(zone));
 }
 
-void clsExternalCoefficients::ScanMonoPitchedRoof(Faces face, ResultsScreens resultsScreen, bool warning) {
-  BreCpX& component = RequireBreCp();
+void clsExternalCoefficients::ScanMonoPitchedRoof(BreCpX& component, Faces face, ResultsScreens resultsScreen,
+                                                  bool warning) {
   if (face == Faces::Face_2 || face == Faces::Face_4) {
     component.Theta(face == Faces::Face_2 ? 90 : 270);
     component.ZoneIndex(0);
-    if (component.Valid()) AddComponentZone(0, "", resultsScreen, warning);
+    if (component.Valid()) AddComponentZone(component, 0, "", resultsScreen, warning);
   }
   constexpr std::array<double, FaceCount> angles = {0, 89.9, 180, 270.1};
   if (IsFace(face)) component.Theta(angles[FaceNumber(face)]);
-  AddComponentZones("", resultsScreen, warning);
+  AddComponentZones(component, "", resultsScreen, warning);
 }
 
-void clsExternalCoefficients::ScanParapet(bool warning) {
-  BreCpX& component = RequireBreCp();
+void clsExternalCoefficients::ScanParapet(BreCpX& component, bool warning) {
   component.Theta(0);
-  AddComponentZones(" (windward)", ResultsScreens(-1), warning);
+  AddComponentZones(component, " (windward)", ResultsScreens(-1), warning);
   component.Theta(180);
-  AddComponentZones(" (leeward)", ResultsScreens(-1), warning);
+  AddComponentZones(component, " (leeward)", ResultsScreens(-1), warning);
 }
 
-void clsExternalCoefficients::ScanOtherRoof(Faces face, ResultsScreens resultsScreen, bool warning) {
+void clsExternalCoefficients::ScanOtherRoof(BreCpX& component, Faces face, ResultsScreens resultsScreen,
+                                            bool warning) {
   constexpr std::array<double, FaceCount> angles = {0, 90, 180, 270};
-  if (IsFace(face)) RequireBreCp().Theta(angles[FaceNumber(face)]);
-  AddComponentZones("", resultsScreen, warning);
+  if (IsFace(face)) component.Theta(angles[FaceNumber(face)]);
+  AddComponentZones(component, "", resultsScreen, warning);
 }
 
-void clsExternalCoefficients::AddComponentZones(const char* suffix, ResultsScreens resultsScreen,
-                                                bool warning) {
-  BreCpX& component = RequireBreCp();
+void clsExternalCoefficients::AddComponentZones(BreCpX& component, const char* suffix,
+                                                ResultsScreens resultsScreen, bool warning) {
   for (std::int16_t zone = 0; zone <= LastComponentZone; ++zone) {
     component.ZoneIndex(zone);
-    if (component.Valid()) AddComponentZone(zone, suffix, resultsScreen, warning);
+    if (component.Valid()) AddComponentZone(component, zone, suffix, resultsScreen, warning);
   }
 }
 
 // The extent starts cleared for each zone, so that a zone behind one without lengths shows its own.
-void clsExternalCoefficients::AddComponentZone(std::int16_t componentZoneIndex, const char* suffix,
-                                               ResultsScreens resultsScreen, bool warning) {
+void clsExternalCoefficients::AddComponentZone(BreCpX& component, std::int16_t componentZoneIndex,
+                                               const char* suffix, ResultsScreens resultsScreen,
+                                               bool warning) {
   ZoneExtent extent;
-  if (!CalculateZoneExtent(extent, resultsScreen, warning)) return;
-  ZoneRecord& zone = AppendZone(componentZoneIndex);
-  zone.Description = RequireBreCp().ZoneString();
+  if (!CalculateZoneExtent(component, extent, resultsScreen, warning)) return;
+  ZoneRecord zone = ReadZone(component, componentZoneIndex);
+  zone.Description = component.ZoneString();
   zone.Description += suffix;
-  ReadBackDimensions(zone);
+  ReadBackDimensions(component, zone);
   zone.Extent = extent;
+  m_ZoneTable.push_back(std::move(zone));
 }
 
-ZoneRecord& clsExternalCoefficients::AppendZone(std::int16_t componentZoneIndex) {
-  ZoneRecord& zone = m_ZoneTable.emplace_back();
+// A zone enters the table once it is whole: a host that reads the table in the middle of a call on the
+// component builds it anew.
+ZoneRecord clsExternalCoefficients::ReadZone(const BreCpX& component, std::int16_t componentZoneIndex) {
+  ZoneRecord zone;
   zone.ComponentZoneIndex = componentZoneIndex;
-  zone.Theta = ToSingle(RequireBreCp().Theta());
+  zone.Theta = ToSingle(component.Theta());
   return zone;
 }
 
-void clsExternalCoefficients::ReadBackDimensions(ZoneRecord& zone) const {
-  const BreCpX& component = RequireBreCp();
+void clsExternalCoefficients::ReadBackDimensions(const BreCpX& component, ZoneRecord& zone) {
   zone.Dim_L = component.Dim_L();
   zone.Dim_W = component.Dim_W();
   zone.Dim_H = component.Dim_H();

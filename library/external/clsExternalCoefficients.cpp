@@ -4,6 +4,7 @@
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 #include "core/CaseObjects.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "external/WindFace.h"
 #include "geometry/clsBuildingDimensions.h"
@@ -15,8 +16,11 @@ clsExternalCoefficients::clsExternalCoefficients() {
 }
 
 void clsExternalCoefficients::ApplyDefaults() {
-  ManualResults(false);
-  Bay(Bays::End_Bay);
+  using E = clsExternalCoefficients;
+  OwedLets<E> let(*this);
+  let(&E::ManualResults, false);
+  let(&E::Bay, Bays::End_Bay);
+  let.Finish();
 }
 
 void clsExternalCoefficients::BuildingArea(BuildingAreas value) {
@@ -30,7 +34,7 @@ void clsExternalCoefficients::ManualResults(bool value) {
 }
 
 void clsExternalCoefficients::Bay(Bays value) {
-  if (StoreAndMarkDirty(m_Bay, ToInt16(value))) RequireCurrentCase().BreCp_Dirty(true);
+  StoreAndMarkDirty(m_Bay, ToInt16(value), [] { RequireCurrentCase().BreCp_Dirty(true); });
 }
 
 BuildingAreas clsExternalCoefficients::Resolve(BuildingAreas buildingArea) const {
@@ -81,6 +85,7 @@ std::int16_t clsExternalCoefficients::ZoneIndexFrom(BuildingAreas, Faces) {
 
 std::int16_t clsExternalCoefficients::ZoneIndexTo(BuildingAreas buildingArea, Faces face,
                                                   ResultsScreens resultsScreen) {
+  const KeepAlive keep(*this);
   BuildZoneTable(buildingArea, face, resultsScreen);
   return static_cast<std::int16_t>(static_cast<int>(m_ZoneTable.size()) - 1);
 }
@@ -93,6 +98,7 @@ const ZoneRecord& clsExternalCoefficients::ZoneAt(std::int16_t zoneIndex) const 
 
 std::int16_t clsExternalCoefficients::Hybrid_WindFromFace(BuildingAreas buildingArea, Faces face,
                                                           std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   switch (area) {
     case BuildingAreas::baRoof:
@@ -108,6 +114,7 @@ std::int16_t clsExternalCoefficients::Hybrid_WindFromFace(BuildingAreas building
 
 std::string clsExternalCoefficients::Hybrid_ZoneDescription(BuildingAreas buildingArea, Faces face,
                                                             std::int16_t zoneIndex) {
+  const KeepAlive keep(*this);
   BuildZoneTable(buildingArea, face, ResultsScreens(-1));
   return ZoneAt(Resolve(zoneIndex)).Description;
 }
@@ -115,6 +122,7 @@ std::string clsExternalCoefficients::Hybrid_ZoneDescription(BuildingAreas buildi
 ZoneDimensionsXY clsExternalCoefficients::Hybrid_ZoneDimensionsXY(BuildingAreas buildingArea, Faces face,
                                                                   std::int16_t zoneIndex,
                                                                   ResultsScreens resultsScreen) {
+  const KeepAlive keep(*this);
   BuildZoneTable(buildingArea, face, resultsScreen);
   const ZoneExtent& extent = ZoneAt(Resolve(zoneIndex)).Extent;
   if (extent.NoDimensions) return {};
@@ -134,6 +142,7 @@ float clsExternalCoefficients::Hybrid_ZoneDimensionY(BuildingAreas buildingArea,
 std::string clsExternalCoefficients::Hybrid_ZoneDimensions(BuildingAreas buildingArea, Faces face,
                                                            std::int16_t zoneIndex,
                                                            ResultsScreens resultsScreen) {
+  const KeepAlive keep(*this);
   const auto [area, onFace, zone] = Resolve(buildingArea, face, zoneIndex);
   BuildZoneTable(area, onFace, resultsScreen);
   const ZoneExtent& extent = ZoneAt(zone).Extent;

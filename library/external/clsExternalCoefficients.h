@@ -3,22 +3,26 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "core/Enumerations.h"
 #include "core/Records.h"
+#include "core/WithoutDefaults.h"
 #include "external/WorstCaseSearch.h"
 #include "external/ZoneRecord.h"
 
 namespace orve {
+
+class BreCpX;
 
 /// Answers for a building area, a face and a zone. `zoneIndex` is a position in the zone list of that area
 /// and face, from 0; it means nothing for another area or face. An argument of exactly -1 means the object's
 /// own property. Every read works from the present building; nothing is cached. Errors: 9 for a zone that
 /// isn't there, 91 without a component, and those of the components as they come. Coefficients and Ca have no
 /// unit, q and loads are in kN/m², lengths in metres.
-class clsExternalCoefficients {
+class clsExternalCoefficients : public std::enable_shared_from_this<clsExternalCoefficients> {
  public:
   clsExternalCoefficients();
 
@@ -110,6 +114,7 @@ class clsExternalCoefficients {
     std::int16_t zone;
   };
 
+  explicit clsExternalCoefficients(WithoutDefaults) {}
   void ApplyDefaults();
   void ReadFromSaveFile();
   void WriteToSaveFile();
@@ -120,21 +125,24 @@ class clsExternalCoefficients {
   ZoneAddress Resolve(BuildingAreas buildingArea, Faces face, std::int16_t zoneIndex) const;
 
   void BuildZoneTable(BuildingAreas buildingArea, Faces face, ResultsScreens resultsScreen);
-  void SendMethod();
-  void SetUpRoof();
-  void SetUpWalls();
-  void SetUpParapet(Faces face);
-  void ScanWalls(Faces face, bool warning);
-  void ScanMonoPitchedRoof(Faces face, ResultsScreens resultsScreen, bool warning);
-  void ScanParapet(bool warning);
-  void ScanOtherRoof(Faces face, ResultsScreens resultsScreen, bool warning);
-  void AppendFixedWallZone(double theta, const char* description);
-  ZoneRecord& AppendZone(std::int16_t componentZoneIndex);
-  void ReadBackDimensions(ZoneRecord& zone) const;
-  void AddComponentZone(std::int16_t componentZoneIndex, const char* suffix, ResultsScreens resultsScreen,
-                        bool warning);
-  void AddComponentZones(const char* suffix, ResultsScreens resultsScreen, bool warning);
-  bool CalculateZoneExtent(ZoneExtent& extent, ResultsScreens resultsScreen, bool warning) const;
+  void BuildZoneTable(BreCpX& component, BuildingAreas buildingArea, Faces face,
+                      ResultsScreens resultsScreen);
+  void SendMethod(BreCpX& component);
+  static void SetUpRoof(BreCpX& component);
+  static void SetUpWalls(BreCpX& component);
+  void SetUpParapet(BreCpX& component, Faces face);
+  void ScanWalls(BreCpX& component, Faces face, bool warning);
+  void ScanMonoPitchedRoof(BreCpX& component, Faces face, ResultsScreens resultsScreen, bool warning);
+  void ScanParapet(BreCpX& component, bool warning);
+  void ScanOtherRoof(BreCpX& component, Faces face, ResultsScreens resultsScreen, bool warning);
+  void AppendFixedWallZone(BreCpX& component, double theta, const char* description);
+  static ZoneRecord ReadZone(const BreCpX& component, std::int16_t componentZoneIndex);
+  static void ReadBackDimensions(const BreCpX& component, ZoneRecord& zone);
+  void AddComponentZone(BreCpX& component, std::int16_t componentZoneIndex, const char* suffix,
+                        ResultsScreens resultsScreen, bool warning);
+  void AddComponentZones(BreCpX& component, const char* suffix, ResultsScreens resultsScreen, bool warning);
+  static bool CalculateZoneExtent(const BreCpX& component, ZoneExtent& extent, ResultsScreens resultsScreen,
+                                  bool warning);
   const ZoneRecord& ZoneAt(std::int16_t zoneIndex) const;
 
   static float& ManualCpe(ManualTable& table, const ZoneAddress& zone);

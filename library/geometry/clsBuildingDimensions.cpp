@@ -147,40 +147,43 @@ void clsBuildingDimensions::Parapet_GableReturnCorner(bool value) {
 }
 
 void clsBuildingDimensions::ApplyDefaults() {
-  OrientationUnknown(true);
-  Orientation(0);
-  RoofType(RoofTypes::Flat_roof_with_sharp_eaves);
-  Face1And3_Length(0);
-  Face2And4_Width(0);
-  ConsiderRoof(false);
-  ConsiderWalls(false);
-  ConsiderCantilever(false);
-  ConsiderParapet(false);
-  Roof_Height(0);
-  Roof_Diagonal(Roof_Diagonal_Default());
-  Roof_ParapetHeight(0);
-  Roof_EavesRadius(0);
-  Roof_MansardSlope(0);
-  Roof_Pitch(0);
-  Roof_RiseHeight(0);
-  Roof_FrameType(FrameTypes::Frames_1);
-  Wall_SideHeight(0);
-  Wall_SideDiagonal(Wall_SideDiagonal_Default());
-  Wall_GableHeight(0);
-  Wall_GableDiagonal(Wall_GableDiagonal_Default());
-  Wall_GableFaces(orve::GableFaces::Faces_2_and_4);
-  Wall_GapFace1(0);
-  Wall_GapFace2(0);
-  Wall_GapFace3(0);
-  Wall_GapFace4(0);
-  CantileverFace1Or2_Length(0);
-  CantileverFace3Or4_Length(0);
-  Parapet_Height(0);
-  Parapet_HeightFromFFL_m(0);
-  Parapet_SideDiagonal(Parapet_SideDiagonal_Default());
-  Parapet_GableDiagonal(Parapet_GableDiagonal_Default());
-  Parapet_SideReturnCorner(false);
-  Parapet_GableReturnCorner(false);
+  using B = clsBuildingDimensions;
+  OwedLets<B> let(*this);
+  let(&B::OrientationUnknown, true);
+  let(&B::Orientation, 0);
+  let(&B::RoofType, RoofTypes::Flat_roof_with_sharp_eaves);
+  let(&B::Face1And3_Length, 0);
+  let(&B::Face2And4_Width, 0);
+  let(&B::ConsiderRoof, false);
+  let(&B::ConsiderWalls, false);
+  let(&B::ConsiderCantilever, false);
+  let(&B::ConsiderParapet, false);
+  let(&B::Roof_Height, 0);
+  let(&B::Roof_Diagonal, Roof_Diagonal_Default());
+  let(&B::Roof_ParapetHeight, 0);
+  let(&B::Roof_EavesRadius, 0);
+  let(&B::Roof_MansardSlope, 0);
+  let(&B::Roof_Pitch, 0);
+  let(&B::Roof_RiseHeight, 0);
+  let(&B::Roof_FrameType, FrameTypes::Frames_1);
+  let(&B::Wall_SideHeight, 0);
+  let(&B::Wall_SideDiagonal, Wall_SideDiagonal_Default());
+  let(&B::Wall_GableHeight, 0);
+  let(&B::Wall_GableDiagonal, Wall_GableDiagonal_Default());
+  let(&B::Wall_GableFaces, orve::GableFaces::Faces_2_and_4);
+  let(&B::Wall_GapFace1, 0);
+  let(&B::Wall_GapFace2, 0);
+  let(&B::Wall_GapFace3, 0);
+  let(&B::Wall_GapFace4, 0);
+  let(&B::CantileverFace1Or2_Length, 0);
+  let(&B::CantileverFace3Or4_Length, 0);
+  let(&B::Parapet_Height, 0);
+  let(&B::Parapet_HeightFromFFL_m, 0);
+  let(&B::Parapet_SideDiagonal, Parapet_SideDiagonal_Default());
+  let(&B::Parapet_GableDiagonal, Parapet_GableDiagonal_Default());
+  let(&B::Parapet_SideReturnCorner, false);
+  let(&B::Parapet_GableReturnCorner, false);
+  let.Finish();
 }
 
 }  // namespace orve

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/Enumerations.h"
+#include "core/WithoutDefaults.h"
 
 namespace orve {
 
@@ -129,6 +130,7 @@ class clsBuildingDimensions {
 
  private:
   friend class clsCurrentCase;
+  explicit clsBuildingDimensions(WithoutDefaults) {}
   void ApplyDefaults();
   void ReadFromSaveFile();
   void WriteToSaveFile();

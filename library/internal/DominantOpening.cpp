@@ -2,6 +2,7 @@
 // coefficients of the wall zone in which the opening lies.
 #include "common/Narrow.h"
 #include "core/CaseObjects.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "external/ZoneSearch.h"
 #include "external/clsExternalCoefficients.h"
@@ -66,6 +67,7 @@ float clsInternalCoefficients::DominantOpening_SelectedZoneCpe_Suction(Faces fac
 }
 
 bool clsInternalCoefficients::RatioStands(Faces face, const FaceFlags& flags, double ratio) const {
+  const KeepAlive keep(*this);
   const Faces onFace = Resolve(face);
   const float cpiPressure = InternalCoefficientFactor_Cpi_Pressure(onFace);
   const double cpePressure = DominantOpening_SelectedZoneCpe_Pressure(onFace);
@@ -77,16 +79,21 @@ bool clsInternalCoefficients::RatioStands(Faces face, const FaceFlags& flags, do
 }
 
 void clsInternalCoefficients::SetRatio(Faces face, FaceFlags& flags, double ratio, bool present, bool value) {
-  const auto self = weak_from_this().lock();
   const Faces onFace = static_cast<Faces>(FaceIndex(face));
   if (value == present) return;
   flags[FaceIndex(onFace)] = value;
-  MarkDirty();
-  if (!value) return;
-  const double pressure = DominantOpening_SelectedZoneCpe_Pressure(onFace);
-  InternalCoefficientFactor_Cpi_Pressure(onFace, ToSingle(ratio * pressure));
-  const double suction = DominantOpening_SelectedZoneCpe_Suction(onFace);
-  InternalCoefficientFactor_Cpi_Suction(onFace, ToSingle(ratio * suction));
+  RunAll(MarkDirty, [&] {
+    if (value) WriteRatio(onFace, ratio);
+  });
+}
+
+void clsInternalCoefficients::WriteRatio(Faces face, double ratio) {
+  const float pressure = ToSingle(ratio * DominantOpening_SelectedZoneCpe_Pressure(face));
+  RunAll([&] { InternalCoefficientFactor_Cpi_Pressure(face, pressure); },
+         [&] {
+           const double suction = DominantOpening_SelectedZoneCpe_Suction(face);
+           InternalCoefficientFactor_Cpi_Suction(face, ToSingle(ratio * suction));
+         });
 }
 
 bool clsInternalCoefficients::DominantOpening_Ratio2(Faces face) const {
@@ -94,6 +101,7 @@ bool clsInternalCoefficients::DominantOpening_Ratio2(Faces face) const {
 }
 
 void clsInternalCoefficients::DominantOpening_Ratio2(Faces face, bool value) {
+  const KeepAlive keep(*this);
   SetRatio(face, m_DominantOpening_Ratio2, Ratio2Factor, DominantOpening_Ratio2(face), value);
 }
 
@@ -102,6 +110,7 @@ bool clsInternalCoefficients::DominantOpening_Ratio3(Faces face) const {
 }
 
 void clsInternalCoefficients::DominantOpening_Ratio3(Faces face, bool value) {
+  const KeepAlive keep(*this);
   SetRatio(face, m_DominantOpening_Ratio3, Ratio3Factor, DominantOpening_Ratio3(face), value);
 }
 

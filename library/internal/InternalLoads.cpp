@@ -4,7 +4,8 @@
 #include "common/NumberText.h"
 #include "common/clsCommon.h"
 #include "core/CaseObjects.h"
-#include "core/Marks.h"
+#include "core/KeepAlive.h"
+#include "core/basBS6399_2.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "internal/clsInternalCoefficients.h"
@@ -41,6 +42,7 @@ float clsInternalCoefficients::Hybrid_WorstCase_SizeEffectFactor_Ca(Faces face) 
 }
 
 float clsInternalCoefficients::Hybrid_InternalAppliedLoad_Pressure(Faces face) const {
+  const KeepAlive keep(*this);
   const Faces onFace = Resolve(face);
   const double ca = Hybrid_WorstCase_SizeEffectFactor_Ca(onFace);
   const double cpi = InternalCoefficientFactor_Cpi_Pressure(onFace);
@@ -49,6 +51,7 @@ float clsInternalCoefficients::Hybrid_InternalAppliedLoad_Pressure(Faces face) c
 }
 
 float clsInternalCoefficients::Hybrid_InternalAppliedLoad_Suction(Faces face) const {
+  const KeepAlive keep(*this);
   const Faces onFace = Resolve(face);
   const double ca = Hybrid_WorstCase_SizeEffectFactor_Ca(onFace);
   const double cpi = InternalCoefficientFactor_Cpi_Suction(onFace);
@@ -57,6 +60,7 @@ float clsInternalCoefficients::Hybrid_InternalAppliedLoad_Suction(Faces face) co
 }
 
 std::string clsInternalCoefficients::Hybrid_InternalAppliedLoads(Faces face) const {
+  const KeepAlive keep(*this);
   const Faces onFace = Resolve(face);
   std::string pressure;
   if (IsPresent(InternalCoefficientFactor_Cpi_Pressure(onFace)))

@@ -4,6 +4,7 @@
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 #include "common/clsCommon.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "internal/EnclosedRule.h"
 
@@ -22,20 +23,23 @@ clsInternalCoefficients::clsInternalCoefficients() {
 }
 
 void clsInternalCoefficients::ApplyDefaults() {
-  StructureType(StructureTypes::Enclosed_building);
-  DiagonalDimension_a(0);
-  InternalVolume(0);
-  WindPressureType(WindPressureTypes::wptSidewall);
-  EnclosedBuilding_GeneralCase(false);
-  EnclosedBuilding_NoPositiveInternalPressure(false);
-  EnclosedBuilding_WindNormalToPermeableFace(false);
-  EnclosedBuilding_WindNormalToImpermeableFace(false);
-  EnclosedBuilding_FourWallsEquallyPermeable(false);
+  using I = clsInternalCoefficients;
+  OwedLets<I> let(*this);
+  let(&I::StructureType, StructureTypes::Enclosed_building);
+  let(&I::DiagonalDimension_a, 0);
+  let(&I::InternalVolume, 0);
+  let(&I::WindPressureType, WindPressureTypes::wptSidewall);
+  let(&I::EnclosedBuilding_GeneralCase, false);
+  let(&I::EnclosedBuilding_NoPositiveInternalPressure, false);
+  let(&I::EnclosedBuilding_WindNormalToPermeableFace, false);
+  let(&I::EnclosedBuilding_WindNormalToImpermeableFace, false);
+  let(&I::EnclosedBuilding_FourWallsEquallyPermeable, false);
   for (int face = 0; face < FaceCount; ++face) {
-    DominantOpening_SelectedZoneIndex(static_cast<Faces>(face), WallZones::Windward);
-    InternalCoefficientFactor_Cpi_Pressure(static_cast<Faces>(face), 0);
-    InternalCoefficientFactor_Cpi_Suction(static_cast<Faces>(face), 0);
+    let(&I::DominantOpening_SelectedZoneIndex, static_cast<Faces>(face), WallZones::Windward);
+    let(&I::InternalCoefficientFactor_Cpi_Pressure, static_cast<Faces>(face), 0);
+    let(&I::InternalCoefficientFactor_Cpi_Suction, static_cast<Faces>(face), 0);
   }
+  let.Finish();
 }
 
 void clsInternalCoefficients::Face(Faces value) {
@@ -128,31 +132,36 @@ bool clsInternalCoefficients::RuleStands(const EnclosedRule& rule) const {
 }
 
 void clsInternalCoefficients::WriteRule(const EnclosedRule& rule) {
+  using I = clsInternalCoefficients;
+  OwedLets<I> let(*this);
   for (int face = 0; face < FaceCount; ++face)
-    InternalCoefficientFactor_Cpi_Pressure(static_cast<Faces>(face), rule.pressure);
+    let(&I::InternalCoefficientFactor_Cpi_Pressure, static_cast<Faces>(face), rule.pressure);
   for (int face = 0; face < FaceCount; ++face)
-    InternalCoefficientFactor_Cpi_Suction(static_cast<Faces>(face), rule.suction);
+    let(&I::InternalCoefficientFactor_Cpi_Suction, static_cast<Faces>(face), rule.suction);
+  let.Finish();
 }
 
 void clsInternalCoefficients::SetRule(const EnclosedRule& rule, bool present, bool value) {
-  const auto self = weak_from_this().lock();
+  const KeepAlive keep(*this);
   if (value == present) return;
   this->*rule.flag = value;
-  MarkDirty();
-  if (value) WriteRule(rule);
+  RunAll(MarkDirty, [&] {
+    if (value) WriteRule(rule);
+  });
 }
 
 // The three rules that share their values exclude each other: whichever value comes in, this one is then
 // chosen.
 void clsInternalCoefficients::SetExclusiveRule(const EnclosedRule& rule, bool present, bool value) {
-  const auto self = weak_from_this().lock();
+  const KeepAlive keep(*this);
   if (value == present) return;
   m_EnclosedBuilding_NoPositiveInternalPressure = false;
   m_EnclosedBuilding_WindNormalToImpermeableFace = false;
   m_EnclosedBuilding_FourWallsEquallyPermeable = false;
   this->*rule.flag = true;
-  MarkDirty();
-  if (value) WriteRule(rule);
+  RunAll(MarkDirty, [&] {
+    if (value) WriteRule(rule);
+  });
 }
 
 bool clsInternalCoefficients::EnclosedBuilding_GeneralCase() const {

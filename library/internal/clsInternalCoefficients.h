@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/Enumerations.h"
+#include "core/WithoutDefaults.h"
 #include "external/WorstCaseSearch.h"
 
 namespace orve {
@@ -108,6 +109,7 @@ class clsInternalCoefficients : public std::enable_shared_from_this<clsInternalC
   using FaceFlags = std::array<bool, FaceCount>;
   using FaceValues = std::array<float, FaceCount>;
 
+  explicit clsInternalCoefficients(WithoutDefaults) {}
   void ApplyDefaults();
   void ReadFromSaveFile();
   void WriteToSaveFile();
@@ -121,6 +123,7 @@ class clsInternalCoefficients : public std::enable_shared_from_this<clsInternalC
   template <class ReadCpe>
   float SelectedZoneCpe(Faces face, ReadCpe readCpe) const;
   bool RatioStands(Faces face, const FaceFlags& flags, double ratio) const;
+  void WriteRatio(Faces face, double ratio);
   void SetRatio(Faces face, FaceFlags& flags, double ratio, bool present, bool value);
 
   std::int16_t m_Face = 0;

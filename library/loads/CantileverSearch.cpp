@@ -9,6 +9,7 @@
 #include "common/Narrow.h"
 #include "common/NumberText.h"
 #include "core/CaseObjects.h"
+#include "core/KeepAlive.h"
 #include "external/clsExternalCoefficients.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "loads/CantileverLayout.h"
@@ -164,12 +165,14 @@ std::vector<std::string> WallList(Faces face, std::string_view label) {
 }  // namespace
 
 bool clsOverallAppliedLoads::CantileverValues(BuildingAreas buildingArea, Faces face, bool results) {
+  const KeepAlive keep(*this);
   const BuildingAreas area = Resolve(buildingArea);
   const Faces resolvedFace = Resolve(face);
   m_CantileverZones.assign(1, {});
   const float width = CaseBuildingDimensions()->Face2And4_Width();
   if (area != BuildingAreas::baRoof) return false;
   ListCantileverZones(resolvedFace, width, results);
+  LastCantileverRow();  // A host that searched meanwhile may have emptied the table.
   m_CantileverZones.pop_back();
   if (m_CantileverZones.empty()) return false;
   m_CantileverZoneIndexFrom = 0;
@@ -200,6 +203,7 @@ void clsOverallAppliedLoads::ListCantileverZones(Faces face, float width, bool r
 }
 
 std::string clsOverallAppliedLoads::SelectedCantileverLoadValues(BuildingAreas buildingArea, Faces face) {
+  const KeepAlive keep(*this);
   const BuildingAreas area = Resolve(buildingArea);
   const Faces resolvedFace = Resolve(face);
   const SelectedLoadTypes type = SelectedLoadType(area, resolvedFace);

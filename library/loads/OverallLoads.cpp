@@ -7,6 +7,7 @@
 #include "common/Narrow.h"
 #include "common/clsCommon.h"
 #include "core/CaseObjects.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "core/Ranges.h"
 #include "external/clsExternalCoefficients.h"
@@ -120,6 +121,7 @@ std::string clsOverallAppliedLoads::Hybrid_ExternalAppliedLoads(BuildingAreas bu
 
 std::string clsOverallAppliedLoads::Hybrid_InternalAppliedLoads(BuildingAreas buildingArea, Faces face,
                                                                 std::int16_t zoneIndex) const {
+  const KeepAlive keep(*this);
   const BuildingAreas area = Resolve(buildingArea);
   const Faces onFace = Resolve(face);
   const std::int16_t zone = Resolve(zoneIndex);
@@ -152,6 +154,7 @@ float clsOverallAppliedLoads::Hybrid_OverallAppliedLoad_Suction(BuildingAreas bu
 
 std::string clsOverallAppliedLoads::Hybrid_OverallAppliedLoads(BuildingAreas buildingArea, Faces face,
                                                                std::int16_t zoneIndex) const {
+  const KeepAlive keep(*this);
   const BuildingAreas area = Resolve(buildingArea);
   const Faces onFace = Resolve(face);
   const std::int16_t zone = Resolve(zoneIndex);

@@ -5,6 +5,7 @@
 
 #include "common/LoadText.h"
 #include "common/Narrow.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "loads/clsOverallAppliedLoads.h"
 
@@ -62,6 +63,7 @@ void clsOverallAppliedLoads::SelectedLoadType(BuildingAreas buildingArea, Faces 
 }
 
 std::string clsOverallAppliedLoads::SelectedLoadValues(BuildingAreas buildingArea, Faces face) const {
+  const KeepAlive keep(*this);
   const BuildingAreas area = Resolve(buildingArea);
   const Faces resolvedFace = Resolve(face);
   const SelectedLoadTypes type = SelectedLoadType(area, resolvedFace);
@@ -74,6 +76,7 @@ std::string clsOverallAppliedLoads::SelectedLoadValues(BuildingAreas buildingAre
 
 std::string clsOverallAppliedLoads::SelectedParapetLoads(SelectedLoadTypes selectedLoadType,
                                                          Faces face) const {
+  const KeepAlive keep(*this);
   const auto pair =
       std::find_if(std::begin(ParapetPairs), std::end(ParapetPairs),
                    [selectedLoadType](const ParapetPair& each) { return each.Type == selectedLoadType; });
@@ -117,6 +120,7 @@ bool clsOverallAppliedLoads::ContinuousSteppedWind(BuildingAreas buildingArea, F
 
 ZoneSearch clsOverallAppliedLoads::FindZoneOf(std::string_view description, BuildingAreas area,
                                               Faces face) const {
+  const KeepAlive keep(*this);
   const std::int16_t to = ZoneIndexTo(area, face);
   const std::int16_t from = ZoneIndexFrom(area, face);
   return FindZone(from, to, description,

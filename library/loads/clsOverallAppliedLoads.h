@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -11,6 +12,7 @@
 
 #include "core/Enumerations.h"
 #include "core/Records.h"
+#include "core/WithoutDefaults.h"
 #include "external/ZoneSearch.h"
 
 namespace orve {
@@ -20,7 +22,7 @@ struct BayLoadCase;
 /// Turns coefficients into the loads that a design uses. A load is a surface pressure in kN/m²: positive
 /// pushes on the surface, negative is suction. An argument of exactly -1 means the object's own property.
 /// Nothing is cached; errors of the objects asked pass to the caller unchanged.
-class clsOverallAppliedLoads {
+class clsOverallAppliedLoads : public std::enable_shared_from_this<clsOverallAppliedLoads> {
  public:
   clsOverallAppliedLoads();
 
@@ -159,6 +161,7 @@ class clsOverallAppliedLoads {
   template <class Value>
   using AreaFaceTable = std::array<std::array<Value, FaceCount>, AreaCount>;
 
+  explicit clsOverallAppliedLoads(WithoutDefaults) {}
   void ApplyDefaults();
   void ReadFromSaveFile();
   void WriteToSaveFile();

@@ -1,5 +1,6 @@
 // The site half of the class: its scalar values and the values by sector.
 #include "common/Narrow.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "sitewind/BVe2X.h"
 #include "sitewind/SectorInputs.h"
@@ -24,7 +25,7 @@ namespace {
 // Stores a changed input of the wind-speed component and marks the case and the component.
 template <class Field, class Value>
 void StoreComponentInput(Field& field, const Value& value) {
-  if (StoreAndMarkDirty(field, value)) RequireCurrentCase().BreVe_Dirty(true);
+  StoreAndMarkDirty(field, value, [] { RequireCurrentCase().BreVe_Dirty(true); });
 }
 
 }  // namespace
@@ -40,11 +41,10 @@ void clsDynamicPressure::SiteEdited(bool value) {
 }
 
 void clsDynamicPressure::GridReference(const std::string& value) {
-  const auto self = weak_from_this().lock();
+  const KeepAlive keep(*this);
   if (value.empty()) m_SiteFault.clear();
-  if (!StoreAndMarkDirty(m_GridReference, value)) return;
-  SiteDirty(true);
-  SiteSelected(true);
+  StoreAndMarkDirty(
+      m_GridReference, value, [this] { SiteDirty(true); }, [this] { SiteSelected(true); });
 }
 
 void clsDynamicPressure::SaBasedOn(SaBasedOnTypes value) {
@@ -70,19 +70,19 @@ void clsDynamicPressure::StartMonth(Months value) {
 }
 
 float clsDynamicPressure::SectorValue(WindSectors windSector, float (BVe2X::*get)(WindSectors) const) {
+  const KeepAlive keep(*this);
   const WindSectors sector = Resolve(windSector);
   RefreshWindComponent();
-  return (RequireBreVe().*get)(sector);
+  return (RequireBreVe().get()->*get)(sector);
 }
 
 void clsDynamicPressure::SectorValue(WindSectors windSector, SectorValues& values, float value) {
-  const auto self = weak_from_this().lock();
+  const KeepAlive keep(*this);
   const auto sector = static_cast<std::int32_t>(Resolve(windSector));
   if (sector < 0 || sector >= SectorCount) RaiseSubscript("wind sector", sector, 0, SectorCount - 1);
   if (Differs(values[sector], value)) m_SiteFault.clear();
-  if (!StoreAndMarkDirty(values[sector], value)) return;
-  SiteEdited(true);
-  RequireCurrentCase().BreVe_Dirty(true);
+  StoreAndMarkDirty(
+      values[sector], value, [this] { SiteEdited(true); }, [] { RequireCurrentCase().BreVe_Dirty(true); });
 }
 
 float clsDynamicPressure::CrestHeight_Z(WindSectors windSector) {

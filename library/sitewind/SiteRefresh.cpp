@@ -1,4 +1,5 @@
 // Keeping the wind-speed component in step with the site, and the component's site dialogs.
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "sitewind/BVe2X.h"
 #include "sitewind/SectorInputs.h"
@@ -25,23 +26,52 @@ std::string SiteFaultOf(const BVe2X& component) {
   return state ? state->SiteFault() : std::string();
 }
 
+// Lets the open case calculate anew after another object has worked on the component.
+template <class IsOpenCases>
+class AnewForOpenCase {
+ public:
+  explicit AnewForOpenCase(IsOpenCases isOpenCases) : m_isOpenCases(isOpenCases) {}
+  ~AnewForOpenCase() {
+    if (basBS6399_2::CurrentCase && !m_isOpenCases()) basBS6399_2::CurrentCase->BreVe_Dirty(true);
+  }
+
+ private:
+  IsOpenCases m_isOpenCases;
+};
+
 }  // namespace
 
+// False for an object of a former case, or one that a handler has just put aside.
+bool clsDynamicPressure::IsOpenCases() const {
+  return RequireCurrentCase().m_DynamicPressure.get() == this;
+}
+
 void clsDynamicPressure::RefreshWindComponent() {
+  if (IsOpenCases() && !RequireCurrentCase().BreVe_Dirty() && !SiteDirty()) return;
+  const KeepAlive keep(*this);
+  CaseSteps steps;
+  steps.Run([&] { RefreshWindComponent(steps); });
+  steps.Finish();
+}
+
+// What a handler raises at a mark is kept in `marks`, so that the work is finished; an error of the component
+// ends it.
+void clsDynamicPressure::RefreshWindComponent(CaseSteps& marks) {
   const auto root = RequireCurrentCase().shared_from_this();
-  if (!root->BreVe_Dirty() && !SiteDirty()) return;
-  BVe2X& component = RequireBreVe();
-  component.Risk(AnnualRisk());
-  component.Season(static_cast<std::int32_t>(Duration()));
-  component.StartMonth(static_cast<std::int32_t>(StartMonth()));
-  if (!GridReference().empty() && SiteDirty() && LoadSiteByGridReference(GridReference())) return;
-  SendTopographyMode(component, SaBasedOn());
-  component.SiteAltitude(SiteAltitude());
-  component.BaseV(BasicWindSpeed());
-  for (int sector = 0; sector < SectorCount; ++sector) SendSectorValues(component, sector);
-  if (auto* state = dynamic_cast<SiteState*>(&component)) state->SiteFault(m_SiteFault);
-  if (component.A() <= 0) component.A(1);
-  component.Calculate();
+  if (IsOpenCases() && !root->BreVe_Dirty() && !SiteDirty()) return;
+  const AnewForOpenCase anew([this] { return IsOpenCases(); });
+  const auto component = RequireBreVe();
+  component->Risk(AnnualRisk());
+  component->Season(static_cast<std::int32_t>(Duration()));
+  component->StartMonth(static_cast<std::int32_t>(StartMonth()));
+  if (!GridReference().empty() && SiteDirty() && LoadSiteByGridReference(*component, marks)) return;
+  SendTopographyMode(*component, SaBasedOn());
+  component->SiteAltitude(SiteAltitude());
+  component->BaseV(BasicWindSpeed());
+  for (int sector = 0; sector < SectorCount; ++sector) SendSectorValues(*component, sector);
+  if (auto* state = dynamic_cast<SiteState*>(component.get())) state->SiteFault(m_SiteFault);
+  if (component->A() <= 0) component->A(1);
+  component->Calculate();
   root->BreVe_Dirty(false);
 }
 
@@ -62,15 +92,14 @@ void clsDynamicPressure::SendSectorValues(BVe2X& component, int sector) {
 
 // False if the component says that it has no such site. The values of the case then stay, and are sent again:
 // the component may hold those of another case.
-bool clsDynamicPressure::LoadSiteByGridReference(const std::string& reference) {
-  const auto self = weak_from_this().lock();
-  const auto component = HeldBreVe();
-  component->SiteID(reference);
-  component->GBSite();
-  if (component->Wizard() == WizardEdited) SiteEdited(true);
-  component->Calculate();
-  m_SiteFault = SiteFaultOf(*component);
-  if (m_SiteFault.empty()) CopySiteFromComponent(*component);
+bool clsDynamicPressure::LoadSiteByGridReference(BVe2X& component, CaseSteps& marks) {
+  const std::string reference = GridReference();
+  component.SiteID(reference);
+  component.GBSite();
+  if (component.Wizard() == WizardEdited) marks.Run([this] { SiteEdited(true); });
+  component.Calculate();
+  m_SiteFault = SiteFaultOf(component);
+  if (m_SiteFault.empty()) CopySiteFromComponent(component);
   SiteDirty(false);
   return m_SiteFault.empty();
 }
@@ -101,33 +130,44 @@ bool clsDynamicPressure::EnterSite() {
 }
 
 bool clsDynamicPressure::PickSite(bool (BVe2X::*dialog)()) {
-  const auto self = weak_from_this().lock();
-  const auto component = HeldBreVe();
+  const KeepAlive keep(*this);
+  const AnewForOpenCase anew([this] { return IsOpenCases(); });
+  const auto component = RequireBreVe();
   if (!(component.get()->*dialog)()) return false;
-  GridReference(component->SiteID());
-  if (SiteEdited()) {
-    SiteDirty(true);
-    SiteEdited(false);
-  }
-  const bool autoWizard = component->AutoWizard();
-  component->AutoWizard(false);
-  RefreshWindComponent();
-  component->AutoWizard(autoWizard);
+  CaseSteps steps;
+  steps.Run([&] { TakePickedSite(*component, steps); });
+  steps.Finish();
   return true;
 }
 
+void clsDynamicPressure::TakePickedSite(BVe2X& component, CaseSteps& marks) {
+  const std::string reference = component.SiteID();
+  marks.Run([&] { GridReference(reference); });
+  if (SiteEdited()) {
+    SiteDirty(true);
+    marks.Run([this] { SiteEdited(false); });
+  }
+  const bool autoWizard = component.AutoWizard();
+  component.AutoWizard(false);
+  RefreshWindComponent(marks);
+  component.AutoWizard(autoWizard);
+}
+
 bool clsDynamicPressure::EditSite() {
-  const auto self = weak_from_this().lock();
+  const KeepAlive keep(*this);
+  const AnewForOpenCase anew([this] { return IsOpenCases(); });
   RefreshWindComponent();
-  const auto component = HeldBreVe();
+  const auto component = RequireBreVe();
   if (!component->Edit()) return false;
   // The values come first: a handler that reads a result at the mark may send them back to the component.
   const clsDynamicPressure before = *this;
   CopySiteFromComponent(*component);
   m_SiteFault = SiteFaultOf(*component);
   const bool differs = SiteDiffersFrom(before);
-  SiteEdited(true);
-  if (differs) MarkDirty();
+  RunAll([this] { SiteEdited(true); },
+         [differs] {
+           if (differs) MarkDirty();
+         });
   return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include "common/Narrow.h"
 #include "core/CaseObjects.h"
+#include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "geometry/clsBuildingDimensions.h"
 #include "internal/clsInternalCoefficients.h"
@@ -26,18 +27,21 @@ clsDynamicPressure::clsDynamicPressure() {
 }
 
 void clsDynamicPressure::ApplyDefaults() {
-  SiteSelected(false);
-  SiteEdited(false);
-  Method(Methods::Hybrid);
-  ManualResults(false);
-  GridReference("");
-  SaBasedOn(SaBasedOnTypes::Altitude);
-  SiteAltitude(0);
-  BasicWindSpeed(0);
-  AnnualRisk(DefaultAnnualRisk);
-  LifeTime(orve::LifeTime::Permanent);
-  Duration(Durations::All_year);
-  StartMonth(Months::January);
+  using D = clsDynamicPressure;
+  OwedLets<D> let(*this);
+  let(&D::SiteSelected, false);
+  let(&D::SiteEdited, false);
+  let(&D::Method, Methods::Hybrid);
+  let(&D::ManualResults, false);
+  let(&D::GridReference, "");
+  let(&D::SaBasedOn, SaBasedOnTypes::Altitude);
+  let(&D::SiteAltitude, 0);
+  let(&D::BasicWindSpeed, 0);
+  let(&D::AnnualRisk, DefaultAnnualRisk);
+  let(&D::LifeTime, orve::LifeTime::Permanent);
+  let(&D::Duration, Durations::All_year);
+  let(&D::StartMonth, Months::January);
+  let.Finish();
 }
 
 void clsDynamicPressure::WindArea(WindAreas value) {
@@ -48,7 +52,7 @@ void clsDynamicPressure::WindSector(WindSectors value) {
 }
 
 void clsDynamicPressure::Method(Methods value) {
-  if (StoreAndMarkDirty(m_Method, ToInt16(value))) RequireCurrentCase().BreCp_Dirty(true);
+  StoreAndMarkDirty(m_Method, ToInt16(value), [] { RequireCurrentCase().BreCp_Dirty(true); });
 }
 
 void clsDynamicPressure::ManualResults(bool value) {
@@ -103,8 +107,7 @@ float clsDynamicPressure::DiagonalOf(WindAreas windArea) const {
   }
 }
 
-void clsDynamicPressure::SetHeightAndDiagonal(float height, float diagonal) {
-  BVe2X& component = RequireBreVe();
+void clsDynamicPressure::SetHeightAndDiagonal(BVe2X& component, float height, float diagonal) {
   if (Differs(component.H(), height)) {
     component.H(height);
     RequireCurrentCase().BreVe_Dirty(true);
@@ -117,23 +120,28 @@ void clsDynamicPressure::SetHeightAndDiagonal(float height, float diagonal) {
 
 float clsDynamicPressure::Factor(WindAreas windArea, WindSectors windSector, ComponentFactor factor,
                                  bool terrainFactor) {
+  const KeepAlive keep(*this);
   const WindAreas area = FollowWindPressureType(Resolve(windArea));
   const WindSectors sector = Resolve(windSector);
   const float height = HeightOf(area);
   const bool fixedDiagonal = terrainFactor && Method() == Methods::Hybrid;
-  SetHeightAndDiagonal(height, fixedDiagonal ? HybridTerrainDiagonal : DiagonalOf(area));
+  const float diagonal = fixedDiagonal ? HybridTerrainDiagonal : DiagonalOf(area);
+  const auto component = RequireBreVe();
+  SetHeightAndDiagonal(*component, height, diagonal);
   RefreshWindComponent();
-  return (RequireBreVe().*factor)(sector);
+  return (component.get()->*factor)(sector);
 }
 
 float clsDynamicPressure::ProbabilityFactor_Sp() {
+  const KeepAlive keep(*this);
   RefreshWindComponent();
-  return RequireBreVe().Sp();
+  return RequireBreVe()->Sp();
 }
 
 float clsDynamicPressure::SeasonalFactor_Ss() {
+  const KeepAlive keep(*this);
   RefreshWindComponent();
-  return RequireBreVe().Ss();
+  return RequireBreVe()->Ss();
 }
 
 float clsDynamicPressure::DirectionFactor_Sd(WindAreas windArea, WindSectors windSector) {
@@ -182,6 +190,7 @@ float clsDynamicPressure::TerrainAndBuildingFactor_Sb(WindAreas windArea, WindSe
 }
 
 float clsDynamicPressure::SiteWindSpeed_Vs(WindAreas windArea, WindSectors windSector) {
+  const KeepAlive keep(*this);
   const WindAreas area = Resolve(windArea);
   const WindSectors sector = Resolve(windSector);
   const double sa = AltitudeFactor_Sa(area, sector);
@@ -192,6 +201,7 @@ float clsDynamicPressure::SiteWindSpeed_Vs(WindAreas windArea, WindSectors windS
 }
 
 float clsDynamicPressure::EffectiveWindSpeed_Ve(WindAreas windArea, WindSectors windSector) {
+  const KeepAlive keep(*this);
   const double sb = TerrainAndBuildingFactor_Sb(windArea, windSector);
   return ToSingle(sb * SiteWindSpeed_Vs(windArea, windSector));
 }
@@ -206,13 +216,15 @@ float& clsDynamicPressure::ManualResult(ResultTable& table, WindAreas windArea,
 }
 
 float clsDynamicPressure::DynamicPressure_q(WindAreas windArea, WindSectors windSector) {
+  const KeepAlive keep(*this);
   const WindAreas given = Resolve(windArea);
   const WindSectors sector = Resolve(windSector);
   if (ManualResults()) return ManualResult(m_ManualDynamicPressure_q, given, sector);
   const WindAreas area = FollowWindPressureType(given);
   const float height = HeightOf(area);
-  SetHeightAndDiagonal(height, DiagonalOf(area));
-  const auto component = HeldBreVe();
+  const float diagonal = DiagonalOf(area);
+  const auto component = RequireBreVe();
+  SetHeightAndDiagonal(*component, height, diagonal);
   if (component->Units() != PascalUnits) {
     component->Units(PascalUnits);
     RequireCurrentCase().BreVe_Dirty(true);
@@ -231,15 +243,17 @@ void clsDynamicPressure::DynamicPressure_q(WindAreas windArea, WindSectors windS
 }
 
 float clsDynamicPressure::SizeEffectFactor_Ca(WindAreas windArea, WindSectors windSector) {
+  const KeepAlive keep(*this);
   const WindAreas given = Resolve(windArea);
   const WindSectors sector = Resolve(windSector);
   if (ManualResults()) return ManualResult(m_ManualSizeEffectFactor_Ca, given, sector);
   const WindAreas area = FollowWindPressureType(given);
   const float height = HeightOf(area);
-  SetHeightAndDiagonal(height, given == WindAreas::waInternal
-                                   ? CaseInternalCoefficients()->Calculated_DiagonalDimension_a()
-                                   : DiagonalOf(area));
-  const auto component = HeldBreVe();
+  const float diagonal = given == WindAreas::waInternal
+                             ? CaseInternalCoefficients()->Calculated_DiagonalDimension_a()
+                             : DiagonalOf(area);
+  const auto component = RequireBreVe();
+  SetHeightAndDiagonal(*component, height, diagonal);
   if (!(component->A() > 0)) return 0;
   RefreshWindComponent();
   return component->HybridCa(sector);

@@ -7,10 +7,12 @@
 #include <string>
 
 #include "core/Enumerations.h"
+#include "core/WithoutDefaults.h"
 
 namespace orve {
 
 class BVe2X;
+class CaseSteps;
 
 /// Holds the site, keeps the wind-speed component in step with it, and answers for one wind area of the
 /// building and one of the twelve sectors. No result is kept: every read asks the component. Argument
@@ -155,13 +157,17 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
   struct SectorInput;
   static const std::array<SectorInput, 9> SectorInputs;
 
+  explicit clsDynamicPressure(WithoutDefaults) {}
   void ApplyDefaults();
   void ReadFromSaveFile();
   void WriteToSaveFile();
 
   bool PickSite(bool (BVe2X::*dialog)());
+  void TakePickedSite(BVe2X& component, CaseSteps& marks);
+  bool IsOpenCases() const;
   void RefreshWindComponent();
-  bool LoadSiteByGridReference(const std::string& reference);
+  void RefreshWindComponent(CaseSteps& marks);
+  bool LoadSiteByGridReference(BVe2X& component, CaseSteps& marks);
   void SendSectorValues(BVe2X& component, int sector);
   void CopySiteFromComponent(const BVe2X& component);
   bool SiteDiffersFrom(const clsDynamicPressure& other) const;
@@ -173,7 +179,7 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
   WindAreas FollowWindPressureType(WindAreas windArea) const;
   float HeightOf(WindAreas windArea) const;
   float DiagonalOf(WindAreas windArea) const;
-  void SetHeightAndDiagonal(float height, float diagonal);
+  static void SetHeightAndDiagonal(BVe2X& component, float height, float diagonal);
   float Factor(WindAreas windArea, WindSectors windSector, ComponentFactor factor,
                bool terrainFactor = false);
   float& ManualResult(ResultTable& table, WindAreas windArea, WindSectors windSector) const;

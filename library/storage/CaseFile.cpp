@@ -4,6 +4,7 @@
 #include "common/HostCalls.h"
 #include "common/clsCommon.h"
 #include "common/clsMousePointer.h"
+#include "core/OwedSteps.h"
 #include "core/Required.h"
 #include "core/basBS6399_2.h"
 #include "core/clsCurrentCase.h"
@@ -49,9 +50,12 @@ void clsCurrentCase::ReadCaseFile() {
 }
 
 void clsCurrentCase::WriteCaseFile() {
+  const Document document(*m_iclsSaveFile);
+  document.RequireOpen();
   const double now = HostNow();
   if (!(m_Created < 0 || m_Created > 0)) SetCreated(now);
   SetModified(now);
+  document.RequireOpen();
   CaseSection section(m_iclsSaveFile, "WindLoadCase", CaseSection::Way::Write);
   WalkCaseSection(section);
   Required(m_BuildingDimensions, "BuildingDimensions")->WriteToSaveFile();
@@ -69,28 +73,53 @@ void clsCurrentCase::m_iclsSaveFile_OpenFile(const std::string& fileName, bool& 
     if (cancel) return;
   }
   const clsMousePointer pointer(clsMousePointer::Wait);
-  Clear();
-  file->ReadData(fileName);
-  ReadCaseFile();
-  WindCaseOpened.Raise(fileName);
-  file->RecentFileAdd(fileName);
+  const bool stands = StartNewCase();
+  const Document document(*file);
+  if (stands) {
+    file->ReadData(fileName);
+    if (ReadUnlessReplaced(document)) WindCaseOpened.Raise(fileName);
+  }
+  KeepInRecentList(fileName);
   WindCaseListUpdated.Raise();
+  cancel = !stands || !document.IsOpen();
 }
 
-void clsCurrentCase::m_iclsSaveFile_SaveFile(const std::string& fileName) {
+// False if a handler put another document in the place of the one that was being read.
+bool clsCurrentCase::ReadUnlessReplaced(const Document& document) {
+  try {
+    ReadCaseFile();
+  } catch (const DocumentReplaced&) {
+    if (document.IsOpen()) throw;
+  }
+  return document.IsOpen();
+}
+
+void clsCurrentCase::m_iclsSaveFile_SaveFile(const std::string& fileName, bool& cancel) {
   const auto file = m_iclsSaveFile;
   const clsMousePointer pointer(clsMousePointer::Wait);
-  try {
+  const Document document(*file);
+  OwedSteps steps;
+  bool written = false;
+  steps.Run([&] {
     WriteCaseFile();
     file->WriteData(fileName);
-  } catch (...) {
-    // What didn't reach the disk is unsaved, also where the new date equals the old one.
-    if (!file->Dirty()) file->Dirty(true);
-    throw;
-  }
+    written = true;
+  });
+  // What didn't reach the disk is unsaved, also where the new date equals the old one.
+  if (!written && document.IsOpen() && !file->Dirty()) steps.Run([&] { file->Dirty(true); });
+  steps.Finish();
   WindCaseSaved.Raise(fileName);
-  file->RecentFileAdd(fileName);
+  KeepInRecentList(fileName);
   WindCaseListUpdated.Raise();
+  cancel = !document.IsOpen();
+}
+
+// A list that can't be kept is no reason for a case not to be opened or saved.
+void clsCurrentCase::KeepInRecentList(const std::string& fileName) {
+  try {
+    m_iclsSaveFile->RecentFileAdd(fileName);
+  } catch (const Error&) {
+  }
 }
 
 bool clsCurrentCase::Browse() {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "common/Error.h"
+#include "core/Document.h"
 
 namespace orve {
 
@@ -58,17 +59,21 @@ class CaseSection {
   enum class Way { Read, Write };
 
   CaseSection(std::shared_ptr<clsSaveFile> file, const char* section, Way way)
-      : m_file(std::move(file)), m_section(section), m_reading(way == Way::Read) {}
+      : m_file(std::move(file)), m_document(*m_file), m_section(section), m_reading(way == Way::Read) {}
 
   bool Reading() const { return m_reading; }
 
   /// A key whose value `get()` gives and `set(value)` takes; `absent` stands for a key that isn't there.
+  /// Errors: `DocumentReplaced` if a handler or a component has put another document in the file's place.
   template <class Value, class Get, class Set>
   void Key(const std::string& key, const Value& absent, Get get, Set set) {
     if (m_reading) {
       set(ReadKey(key, absent));
+      m_document.RequireOpen();
     } else {
-      WriteKey(key, CaseValueText(get()));
+      const std::string text = CaseValueText(get());
+      m_document.RequireOpen();
+      WriteKey(key, text);
     }
   }
 
@@ -90,6 +95,7 @@ class CaseSection {
   [[noreturn]] void RaiseAt(const std::string& key, const Error& error) const;
 
   std::shared_ptr<clsSaveFile> m_file;
+  Document m_document;
   std::string m_section;
   bool m_reading;
 };

@@ -9,6 +9,7 @@
 #include "common/HostCalls.h"
 #include "common/TextEncoding.h"
 #include "common/clsCommon.h"
+#include "core/Document.h"
 #include "storage/clsSaveFile.h"
 
 namespace orve {
@@ -108,7 +109,9 @@ void clsSaveFile::ReadData(const std::string& fileName) {
 }
 
 void clsSaveFile::WriteData(const std::string& fileName) {
+  const std::uint64_t document = m_documentNumber;
   const double now = HostNow();
+  if (m_documentNumber != document) throw DocumentReplaced();
   Data("UpdateLog", clsCommon().AppVersion(), std::string(), LongDateText(now) + ", " + LongTimeText(now));
   if (m_DataBuffer.size() > LargestFile)
     throw Error(ErrorNumber::InvalidArgument, "The case is larger than 16 MB: " + NativePath(fileName));

@@ -13,6 +13,7 @@
 #include "common/PutAside.h"
 #include "common/clsCommon.h"
 #include "common/clsWinAPI.h"
+#include "core/OwedSteps.h"
 #include "storage/clsCommonDialog.h"
 
 namespace orve {
@@ -36,6 +37,11 @@ class SavingMark {
   bool m_before;
 };
 
+std::uint64_t NextDocumentNumber() {
+  static std::uint64_t last = 0;
+  return ++last;
+}
+
 bool IsCancel(const Error& error) {
   return error.Number() == static_cast<int>(ErrorNumber::DialogCancelled);
 }
@@ -56,15 +62,21 @@ void clsSaveFile::PathToSaveFiles(const std::string& value) {
 }
 
 void clsSaveFile::Blank(bool value) {
+  const std::uint64_t document = m_documentNumber;
   m_Blank = value;
-  BlankUpdated.Raise(value);
-  if (value) Dirty(false);
+  OwedSteps steps;
+  steps.Run([&] { BlankUpdated.Raise(value); });
+  if (value && m_documentNumber == document) steps.Run([this] { Dirty(false); });
+  steps.Finish();
 }
 
 void clsSaveFile::Dirty(bool value) {
+  const std::uint64_t document = m_documentNumber;
   m_Dirty = value;
-  DirtyUpdated.Raise(value);
-  if (value) Blank(false);
+  OwedSteps steps;
+  steps.Run([&] { DirtyUpdated.Raise(value); });
+  if (value && m_documentNumber == document) steps.Run([this] { Blank(false); });
+  steps.Finish();
 }
 
 void clsSaveFile::FileName(const std::string& value) {
@@ -73,16 +85,25 @@ void clsSaveFile::FileName(const std::string& value) {
 }
 
 bool clsSaveFile::NewFile() {
+  const std::uint64_t document = m_documentNumber = NextDocumentNumber();
+  m_startingDocument = true;
   bool cancel = false;
-  NewFileEvent.Raise(cancel);
-  if (cancel) return false;
-  Blank(true);
-  Dirty(false);
-  FileName(std::string());
-  m_DataBuffer.clear();
-  m_knownName.clear();
-  m_knownState = {};
-  return true;
+  OwedSteps steps;
+  const auto run = [&](auto step) {
+    if (!cancel && m_documentNumber == document) steps.Run(step);
+  };
+  run([&] { NewFileEvent.Raise(cancel); });
+  run([&] { Blank(true); });
+  run([&] { Dirty(false); });
+  run([&] { FileName(std::string()); });
+  run([&] {
+    m_DataBuffer.clear();
+    m_knownName.clear();
+    m_knownState = {};
+  });
+  if (m_documentNumber == document) m_startingDocument = false;
+  steps.Finish();
+  return !cancel && m_documentNumber == document;
 }
 
 bool clsSaveFile::OpenFile(const std::string& fileNameToOpen) {
@@ -111,6 +132,9 @@ bool clsSaveFile::OpenFile(const std::string& fileNameToOpen) {
 }
 
 bool clsSaveFile::SaveFile(const std::string& fileNameToSave) {
+  const std::uint64_t document = m_documentNumber;
+  if (m_startingDocument)
+    throw Error(ErrorNumber::InvalidArgument, "The case can't be saved while a new one is being made");
   try {
     std::string name = StoredPath(fileNameToSave);
     if (TrimBlanks(name).empty()) {
@@ -118,6 +142,7 @@ bool clsSaveFile::SaveFile(const std::string& fileNameToSave) {
       if (!chosen) return false;
       name = *chosen;
     }
+    if (m_documentNumber != document) throw DocumentReplaced();
     const SavingMark saving(m_saving);
     PathToSaveFiles(clsCommon().ExtractPathName(name));
     bool cancel = false;
@@ -144,10 +169,16 @@ void clsSaveFile::NameCopyPutAside(const std::string& name) const {
 }
 
 bool clsSaveFile::TakeOver(const std::string& name) {
-  Blank(false);
-  Dirty(false);
-  FileName(name);
-  return true;
+  const std::uint64_t document = m_documentNumber;
+  OwedSteps steps;
+  const auto run = [&](auto step) {
+    if (m_documentNumber == document) steps.Run(step);
+  };
+  run([&] { Blank(false); });
+  run([&] { Dirty(false); });
+  run([&] { FileName(name); });
+  steps.Finish();
+  return m_documentNumber == document;
 }
 
 std::optional<std::string> clsSaveFile::AskUser(bool save) {

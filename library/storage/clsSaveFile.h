@@ -52,13 +52,19 @@ class clsSaveFile {
   /// Full path of the document, empty for a new one. Every let raises `FileNameUpdated`.
   const std::string& FileName() const { return m_FileName; }
   void FileName(const std::string& value);
-  /// Starts a new document; False if the owner cancelled.
+  /// Starts a new document and finishes it even if a handler raises; the first exception passes on
+  /// afterwards. False if the owner cancelled, or if a handler has started another document meanwhile, which
+  /// then stands.
   bool NewFile();
+  /// Number of the present document; no two documents of the process have the same. 0 before the first.
+  std::uint64_t DocumentNumber() const { return m_documentNumber; }
 
-  /// Opens a document; an empty name asks the user. False after a Cancel or if the file isn't there. Errors:
-  /// those of reading, with the state unchanged.
+  /// Opens a document; an empty name asks the user. False after a Cancel, if the file isn't there, or if a
+  /// handler has put another document in its place. Errors: those of reading, with the state unchanged.
   bool OpenFile(const std::string& fileNameToOpen);
-  /// Saves the document; an empty name asks the user. False after a Cancel. Errors: those of writing.
+  /// Saves the document; an empty name asks the user. False after a Cancel, or if a handler has put another
+  /// document in its place once the file was written. Errors: those of writing; 5 if that happened before, or
+  /// while a new document is being made.
   bool SaveFile(const std::string& fileNameToSave);
 
   /// Value of a key in the document's text, or `defaultText` if section or key is absent.
@@ -90,10 +96,12 @@ class clsSaveFile {
   Event<bool> BlankUpdated;
   Event<bool> DirtyUpdated;
   Event<const std::string&> FileNameUpdated;
-  /// The owner does the document's work; `cancel` True ends the operation.
-  Event<bool& /*cancel*/> NewFileEvent;
-  Event<const std::string& /*fileName*/, bool& /*cancel*/> OpenFileEvent;
-  Event<const std::string& /*fileName*/, bool& /*cancel*/> SaveFileEvent;
+  // The owner does the document's work; `cancel` True ends the operation. These may be nested deeper than the
+  // events that this work raises, so that the work itself isn't what fails when a handler starts it without
+  // end.
+  Event<bool& /*cancel*/> NewFileEvent{2 * Event<>::Deepest};
+  Event<const std::string& /*fileName*/, bool& /*cancel*/> OpenFileEvent{2 * Event<>::Deepest};
+  Event<const std::string& /*fileName*/, bool& /*cancel*/> SaveFileEvent{2 * Event<>::Deepest};
 
   /// Text of the whole document file, UTF-8.
   const std::string& DataBuffer() const { return m_DataBuffer; }
@@ -112,6 +120,8 @@ class clsSaveFile {
   bool m_Blank = false;
   bool m_Dirty = false;
   bool m_saving = false;
+  std::uint64_t m_documentNumber = 0;
+  bool m_startingDocument = false;
   std::string m_FileName;
   std::string m_DataBuffer;
   std::string m_knownName;  ///< The file that was last read or written, and its state then.

@@ -58,9 +58,13 @@ TEST_F(Lifecycle, EveryAssignmentRaisesItsEventAndClearDiscards) {
   EXPECT_EQ(events, (Strings{"clean", "location:C:\\cases\\Shed.WLC"}));
   events.clear();
   const auto stale = root->BuildingDimensions();
+  ExternalPressure pressures;
+  pressures.Wall2_Windward = {"5", "0.6"};
+  root->CantileverWindloads()->ExternalPressures(pressures);
   root->Parent_Span(6);
   root->Clear();
   EXPECT_NE(root->BuildingDimensions(), stale);
+  EXPECT_EQ(root->CantileverWindloads()->ExternalPressures().Wall2_Windward.Zone_ExternalPressures, "0");
   EXPECT_EQ(root->Description(), "");
   EXPECT_FALSE(root->IsDirty());
   EXPECT_EQ(root->Parent_Span(), 6);

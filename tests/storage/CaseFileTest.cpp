@@ -230,19 +230,6 @@ TEST_F(CaseFile, AsksBeforeItDropsUnsavedChanges) {
   EXPECT_EQ(root->Description(), "");
 }
 
-TEST_F(CaseFile, BearsAHandlerThatStartsANewCase) {
-  root->Description("saved");
-  SaveAs("a.wlc");
-  int left = 3;
-  const auto dirty = root->DirtyUpdated.Connect([&](bool value) {
-    if (value && left-- > 0) root->Clear();
-  });
-  EXPECT_TRUE(Open("a.wlc"));
-  const auto saved = root->WindCaseSaved.Connect([&](const std::string&) { root->Clear(); });
-  root->Save();
-  EXPECT_TRUE(Open("a.wlc"));
-}
-
 TEST_F(CaseFile, ShowsTheWaitCursorWhileItWorks) {
   std::string pointers;
   Host().SetMousePointer = [&](std::int16_t type) { pointers += std::to_string(type) + " "; };

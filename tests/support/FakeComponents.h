@@ -18,6 +18,7 @@ namespace orve::test {
 struct CallLog {
   bool recording = false;
   std::vector<std::string> calls;
+  std::function<void()> onCall;
 
   void Get(const char* name) const { Add(std::string(name) + "?"); }
   void Get(const char* name, WindSectors sector) const {
@@ -39,6 +40,7 @@ struct CallLog {
   static std::string Text(double value) { return ShortestText(value); }
   static std::string Text(int value) { return std::to_string(value); }
   void Add(std::string text) const {
+    if (onCall) onCall();
     if (recording) const_cast<CallLog*>(this)->calls.push_back(std::move(text));
   }
 };
