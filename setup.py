@@ -33,11 +33,16 @@ class CMakeBuild(build_ext):
         off = ("TESTS", "C", "WINDCASE", "EXAMPLES")
         options = [f"-DORVE_BUILD_{part}=OFF" for part in off]
         generator = ["-G", "Ninja"] if shutil.which("ninja") else []
+        options += [
+            "-DCMAKE_BUILD_TYPE=Release",
+            "-DCMAKE_CXX_FLAGS_RELEASE=-O2 -DNDEBUG",
+            "-DORVE_BUILD_PYTHON=ON",
+            "-DORVE_INSTALL=OFF",
+            "-DORVE_WERROR=OFF",
+            f"-DPython3_EXECUTABLE={sys.executable}",
+        ]
         subprocess.run(
-            ["cmake", "-S", str(ROOT), "-B", str(build), *generator, *options, *pybind11_options(),
-             "-DCMAKE_BUILD_TYPE=Release", "-DORVE_BUILD_PYTHON=ON", "-DORVE_INSTALL=OFF", "-DORVE_WERROR=OFF",
-             f"-DPython3_EXECUTABLE={sys.executable}"],
-            check=True,
+            ["cmake", "-S", str(ROOT), "-B", str(build), *generator, *options, *pybind11_options()], check=True
         )
         subprocess.run(
             ["cmake", "--build", str(build), "--target", "orve_python", "--parallel", str(os.cpu_count() or 1)],
