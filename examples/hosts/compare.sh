@@ -1,5 +1,5 @@
 #!/bin/sh
-# compare.sh SHED_CPP SHED_C [PYTHON]: the hosts print the same sheet, and hosting.md shows them as they are.
+# compare.sh SHED_CPP SHED_C [PYTHON]: the hosts print the same sheet, and the guide shows them as they are.
 set -eu
 here=$(dirname "$0")
 folder=$(mktemp -d)
@@ -12,7 +12,9 @@ export XDG_CONFIG_HOME="$folder" TMPDIR="$folder"
 for door in c python; do
   [ ! -e "$folder/$door" ] || diff "$folder/cpp" "$folder/$door"
 done
-# A host in the document stands between a comment with its name and the end of its block.
-for host in shed.cpp shed.c shed.py; do
-  sed -n "/^<!-- $host -->\$/,/^\`\`\`\$/p" "$here/../../docs/hosting.md" | sed '1,2d;$d' | diff - "$here/$host"
-done
+# A host in the guide stands between a comment with its name and the end of its block.
+shown() { sed -n "/^<!-- $(basename "$2") -->\$/,/^\`\`\`\$/p" "$here/../../docs/$1" | sed '1,2d;$d' | diff - "$here/$2"; }
+shown hosting.md ../smallest_host.cpp
+shown hosting-by-name.md by_name.cpp
+shown hosting-c.md shed.c
+shown hosting-python.md shed.py
