@@ -1,5 +1,6 @@
 #include "coefficients/CoefficientEngine.h"
 
+#include <cmath>
 #include <limits>
 #include <span>
 #include <string_view>
@@ -25,8 +26,8 @@ using coefficients::WindAngle;
 float LengthToSingle(double value) {
   constexpr double largest = std::numeric_limits<float>::max();
   constexpr float infinity = std::numeric_limits<float>::infinity();
-  if (value > largest) return infinity;
-  if (value < -largest) return -infinity;
+  if (std::isgreater(value, largest)) return infinity;
+  if (std::isless(value, -largest)) return -infinity;
   return static_cast<float>(value);
 }
 

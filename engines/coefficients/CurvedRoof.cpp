@@ -19,10 +19,10 @@ constexpr std::size_t kFlatB = 1, kFlatC = 2, kFlatD = 3;
 double RiseOverSpan(const Request& request) {
   const Inputs& inputs = request.inputs;
   RequirePositive(request, kTitle, "Dim_W", inputs.width, "m");
-  if (!(inputs.height >= 0 && inputs.height <= kLargest))
+  if (!(std::isgreaterequal(inputs.height, 0.0F) && inputs.height <= kLargest))
     Refuse(request, kTitle, "Dim_H", inputs.height, "m", "a finite number of 0 or above");
   const double r = static_cast<double>(inputs.barrelRise) / inputs.width;
-  if (!(r > 0))
+  if (!std::isgreater(r, 0.0))
     Refuse(request, kTitle, "Barrel_r over Dim_W", r, "", "above 0 to 0.6",
            "Describe a roof without rise as a flat roof");
   if (Below(kArchedRoof.riseLimit, r))
@@ -65,14 +65,12 @@ Reading ReadAcrossRidge(const Request& request, double r) {
   const Reading centre = ArchReading(S(kArchedRoof.centreHalf.At(r)), suction, "centre half");
   const Reading leeward = ArchReading(S(kArchedRoof.leewardQuarter.At(r)), suction, "leeward quarter");
   // Six strips of a sixth of the depth. The arch figures have no edge strips, so the outer ones are held
-  // against those of a flat roof.
+  // against those of a flat roof. Of the strips across two figures the fifth takes the centre's, the greater.
   switch (request.zone) {
     case 0:
       return MoreOnerous(windward, ReadSharpEaves(request, kFlatB, suction), suction);
     case 1:
       return MoreOnerous(windward, centre, suction);
-    case 4:
-      return MoreOnerous(centre, leeward, suction);
     case 5:
       return MoreOnerous(leeward, ReadSharpEaves(request, kFlatC, suction), suction);
     default:

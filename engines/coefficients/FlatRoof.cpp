@@ -1,5 +1,6 @@
 // Flat roofs: Table 8 and clause 2.5.1.
 #include <algorithm>
+#include <cmath>
 
 #include "coefficients/Refusal.h"
 #include "coefficients/Rules.h"
@@ -22,7 +23,7 @@ void RequirePlan(const Request& request, const Table& table) {
 bool HasFeature(const Request& request, const Table& table, std::string_view quantity, float value,
                 std::string_view unit) {
   if (value == 0) return false;
-  if (!(value > 0 && value <= kLargest))
+  if (!(std::isgreater(value, 0.0F) && value <= kLargest))
     Refuse(request, table, quantity, value, unit, "a finite number of 0 or above");
   return true;
 }

@@ -1,4 +1,6 @@
 // Free-standing walls and parapets: Table 21 and clause 2.7.5.
+#include <cmath>
+
 #include "coefficients/Refusal.h"
 #include "coefficients/Rules.h"
 
@@ -8,7 +10,7 @@ Reading ReadParapet(const Request& request) {
   const Table& table = request.tables.Require(TableNumber::Table21);
   RequirePositive(request, table, "Dim_H", request.plan.height, "m");
   const double corner = request.inputs.width;
-  if (!(corner >= 0 && corner <= kLargest))
+  if (!(std::isgreaterequal(corner, 0.0) && corner <= kLargest))
     Refuse(request, table, "Dim_W", corner, "m", "a finite number of 0 or above");
   // A return corner shorter than the wall is high doesn't help: the figures without one are the safe side.
   const bool returns = corner >= request.plan.height;

@@ -20,15 +20,15 @@ std::string Range(double from, double to) {
 [[noreturn]] void RefusePitch(const Request& request, const Table& table, const std::string& range) {
   const double pitch = request.inputs.roofPitch;
   Refuse(request, table, "Roof_Pitch", pitch, "degrees", range,
-         std::fabs(pitch) < kFlattestPitch ? kDescribeFlat : std::string_view());
+         std::isless(std::fabs(pitch), kFlattestPitch) ? kDescribeFlat : std::string_view());
 }
 
 /// Reads a column at the roof's pitch, between the block's first row and its last and not flatter than 5
 /// degrees.
 Reading ReadPitch(const Request& request, const Table& table, const Block& block, std::size_t column) {
   const double pitch = request.inputs.roofPitch;
-  const bool inside = pitch >= block.First() && pitch <= block.Last();
-  const bool flat = std::fabs(pitch) < kFlattestPitch;
+  const bool inside = std::isgreaterequal(pitch, block.First()) && std::islessequal(pitch, block.Last());
+  const bool flat = std::isless(std::fabs(pitch), kFlattestPitch);
   if (!inside || flat)
     RefusePitch(request, table,
                 block.First() < 0

@@ -1,5 +1,7 @@
 #include "coefficients/Refusal.h"
 
+#include <cmath>
+
 #include "coefficients/Zones.h"
 #include "common/Error.h"
 #include "common/NumberText.h"
@@ -27,7 +29,7 @@ std::string Place(const Request& request, const TableTitle& table) {
 }  // namespace
 
 std::string InputText(double value) {
-  if (value < -kLargest || value > kLargest) return ShortestText(value);
+  if (std::isgreater(std::fabs(value), kLargest)) return ShortestText(value);
   return ShortestText(static_cast<float>(value));
 }
 

@@ -1,6 +1,7 @@
 // How the engine refuses a figure: an error that names table, zone, wind angle, quantity, value and range.
 #pragma once
 
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -24,7 +25,7 @@ namespace orve::coefficients {
 /// Raises 5 unless the value is a finite number above 0.
 inline void RequirePositive(const Request& request, const TableTitle& table, std::string_view quantity,
                             double value, std::string_view unit) {
-  if (!(value > 0 && value <= kLargest))
+  if (!(std::isgreater(value, 0.0) && value <= kLargest))
     Refuse(request, table, quantity, value, unit, "a finite number above 0");
 }
 

@@ -15,10 +15,15 @@ namespace orve::coefficients {
 /// Largest finite input.
 inline constexpr double kLargest = std::numeric_limits<float>::max();
 
+/// A ratio of inputs, which is a number, at their width of 32 bits; the largest there is for a larger one.
+inline float AtInputWidth(double value) {
+  return static_cast<float>(value > kLargest ? kLargest : value);
+}
+
 /// Compares at 32 bits, the width of the inputs: a ratio of inputs that is meant to lie on a limit lies on
 /// it.
 inline bool Below(double value, double limit) {
-  return static_cast<float>(value) < static_cast<float>(limit);
+  return AtInputWidth(value) < AtInputWidth(limit);
 }
 
 /// What is asked: a valid zone of a shape at a wind angle.

@@ -26,6 +26,7 @@ Shape ShapeOf(std::int32_t typeIndex) {
 }
 
 WindAngle WindAngleOf(double theta) {
+  if (!std::isfinite(theta)) return WindAngle::None;
   constexpr double tolerance = 0.05;
   const auto near = [theta](double angle) { return std::fabs(theta - angle) < tolerance; };
   if (near(0)) return WindAngle::At0;

@@ -1,5 +1,6 @@
 // Vertical walls: Table 5 and clause 2.4.1.
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 #include "coefficients/Refusal.h"
@@ -25,7 +26,7 @@ Reading ReadFace(const Request& request, const Table& table) {
 double FunnellingFactor(const Request& request, const Table& table) {
   const double gap = request.inputs.gap;
   if (gap == 0) return 0;
-  if (!(gap > 0 && gap <= kLargest))
+  if (!(std::isgreater(gap, 0.0) && gap <= kLargest))
     Refuse(request, table, "Dim_gap", gap, "m", "a finite number of 0 or above");
   RequirePositive(request, table, "breadth B", request.plan.breadth, "m");
   RequirePositive(request, table, "Dim_H", request.plan.height, "m");

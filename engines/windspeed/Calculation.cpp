@@ -42,20 +42,39 @@ void UpdateTerrain(SectorResults& results, double height) {
   results.line = SizeEffectLine(results.He, toSea, inTown);
 }
 
+double TerrainAndBuilding(const SectorResults& results, double gt) {
+  const TerrainFactors& terrain = results.terrain;
+  if (!AllKnown(terrain.Sc, terrain.Tc, terrain.St, terrain.Tt, gt, results.Sh)) return kNotKnown;
+  return TerrainAndBuildingFactor(terrain, gt, results.Sh);
+}
+
+// Mean wind speed V0 at the effective height, by which gusts pass.
+double MeanSpeed(const SectorResults& results) {
+  if (!AllKnown(results.Vs, results.terrain.Sc, results.terrain.Tc, results.Sh)) return kNotKnown;
+  return results.Vs * results.terrain.Sc * results.terrain.Tc * (1 + results.Sh);
+}
+
 // Site wind speed and the dynamic pressure of a gust peak factor of 3.44.
 void UpdateSpeed(SectorResults& results, const SiteResults& site, double altitude, double basicWindSpeed,
                  std::size_t sector) {
   results.Sa = AltitudeFactor(results.feature, altitude, Usable(results, Input::BaseAltitude));
-  results.Vs = basicWindSpeed * results.Sa * DirectionFactor(sector) * site.Ss * site.Sp;
-  results.logOfSpeed = LogOfSpeed(results.Vs * results.terrain.Sc * results.terrain.Tc * (1 + results.Sh));
-  const double Ve = results.Vs * TerrainAndBuildingFactor(results.terrain, kGustPeakAt5m, results.Sh);
-  results.q = kHalfDensityOfAir * Ve * Ve;
+  results.Vs = AllKnown(basicWindSpeed, results.Sa, site.Ss, site.Sp)
+                   ? basicWindSpeed * results.Sa * DirectionFactor(sector) * site.Ss * site.Sp
+                   : kNotKnown;
+  results.logOfSpeed = LogOfSpeed(MeanSpeed(results));
+  const double Sb = TerrainAndBuilding(results, kGustPeakAt5m);
+  if (AllKnown(results.Vs, Sb)) {
+    const double Ve = results.Vs * Sb;
+    results.q = kHalfDensityOfAir * Ve * Ve;
+  } else {
+    results.q = kNotKnown;
+  }
 }
 
 // What hangs on the diagonal. Up to 5 m it hangs on nothing else.
 void UpdateSize(SectorResults& results, const SiteResults& site, bool small) {
   results.gt = small ? kGustPeakAt5m : GustPeakFactor(site.logOfDiagonal, results.logOfSpeed);
-  results.Sb = TerrainAndBuildingFactor(results.terrain, results.gt, results.Sh);
+  results.Sb = TerrainAndBuilding(results, results.gt);
   if (small)
     results.Ca = 1;
   else
@@ -79,6 +98,7 @@ void Update(SiteResults& results, const InputValues& inputs, const Changes& chan
     results.logOfDiagonal = LogOfDiagonal(a);
     results.sizeEffect = SizeEffectFactors(a);
   }
+  const bool small = !std::isnan(a) && a <= kLeastDiagonal;
   const double height = inputs.Usable(Input::Height, 0);
   const double altitude = inputs.Usable(Input::SiteAltitude, 0);
   const double basicWindSpeed = inputs.Usable(Input::BasicWindSpeed, 0);
@@ -90,7 +110,7 @@ void Update(SiteResults& results, const InputValues& inputs, const Changes& chan
     if (site) UpdateSite(own, inputs, sector);
     if (terrain) UpdateTerrain(own, height);
     if (speed) UpdateSpeed(own, results, altitude, basicWindSpeed, sector);
-    if (speed || changes.diagonal) UpdateSize(own, results, a <= kLeastDiagonal);
+    if (speed || changes.diagonal) UpdateSize(own, results, small);
   }
 }
 

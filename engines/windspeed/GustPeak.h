@@ -15,17 +15,21 @@ inline constexpr double kGustPeakFall = 0.42;
 
 /// ln(a/5) of a diagonal a: 0 up to 5 m.
 inline double LogOfDiagonal(double a) {
+  if (std::isnan(a)) return a;
   return a <= kLeastDiagonal ? 0 : std::log(a / kLeastDiagonal);
 }
 
 /// ln(min(1, 22.5/V0)) of a site's mean wind speed V0 in m/s: a gust passes a diagonal sooner in a stronger
 /// wind.
 inline double LogOfSpeed(double v0) {
+  if (std::isnan(v0)) return v0;
   return v0 <= 22.5 ? 0 : std::log(22.5 / v0);
 }
 
-/// gt of the two logarithms; never below 0.
+/// gt of the two logarithms; never below 0. NaN if one of the two is NaN.
 inline double GustPeakFactor(double logOfDiagonal, double logOfSpeed) {
+  if (std::isnan(logOfDiagonal)) return logOfDiagonal;
+  if (std::isnan(logOfSpeed)) return logOfSpeed;
   const double logOfTime = logOfDiagonal + logOfSpeed;
   if (logOfTime <= 0) return kGustPeakAt5m;
   const double gt = kGustPeakAt5m - kGustPeakFall * logOfTime;

@@ -62,6 +62,7 @@ constexpr Range kRanges[] = {
 };
 
 bool Inside(const Range& range, double value) {
+  if (std::isnan(value)) return false;
   return (range.lowInside ? value >= range.low : value > range.low) &&
          (range.highInside ? value <= range.high : value < range.high);
 }

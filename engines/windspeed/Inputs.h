@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -12,6 +13,13 @@ namespace orve::windspeed {
 inline constexpr std::size_t kSectors = 12;
 inline constexpr std::size_t kSectorValues = 9;
 inline constexpr double kNotKnown = std::numeric_limits<double>::quiet_NaN();
+
+/// Whether none of the values is NaN. Nothing is worked out from a value that isn't known: in a host that
+/// lets floating-point exceptions trap, a comparison with NaN would end the program.
+template <class... Values>
+bool AllKnown(Values... values) {
+  return (!std::isnan(values) && ...);
+}
 
 /// Every input; the nine values of a sector come first, in the order in which a host sends them.
 enum class Input : std::size_t {

@@ -4,12 +4,13 @@
 #include <array>
 #include <cstddef>
 
+#include "windspeed/Inputs.h"
 #include "windspeed/tables/DistanceTable.h"
 
 namespace orve::windspeed {
 
 /// Where a value lies on an axis: between two neighbouring lines, at a fraction of 0 to 1. NaN gives a
-/// fraction of NaN, and so a result of NaN.
+/// fraction of NaN, and so a figure of NaN.
 struct Bracket {
   std::size_t low = 0;
   std::size_t high = 0;
@@ -18,6 +19,7 @@ struct Bracket {
 
 template <std::size_t Lines>
 Bracket Locate(const std::array<double, Lines>& axis, double value) {
+  if (std::isnan(value)) return {0, 0, kNotKnown};
   if (value <= axis.front()) return {};
   if (value >= axis.back()) return {Lines - 1, Lines - 1, 0};
   std::size_t high = 1;
@@ -32,6 +34,7 @@ inline double Between(double low, double high, double fraction) {
 /// A table's figure, linear in He and in km.
 template <std::size_t Rows, std::size_t Columns>
 double At(const DistanceTable<Rows, Columns>& table, const Bracket& row, const Bracket& column) {
+  if (!AllKnown(row.fraction, column.fraction)) return kNotKnown;
   const auto& low = table.values[row.low];
   const auto& high = table.values[row.high];
   return Between(Between(low[column.low], high[column.low], row.fraction),

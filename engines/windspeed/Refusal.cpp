@@ -41,7 +41,7 @@ class Search {
 
   void Displacement() const {
     Check(Input::DistanceInTown);
-    if (Value(Input::DistanceInTown) == 0 || Value(Input::DistanceToSea) == 0) return;
+    if (Country()) return;
     Check(Input::ObstructionHeight);
     if (Value(Input::ObstructionHeight) > 0) Check(Input::ObstructionSpacing);
   }
@@ -58,7 +58,7 @@ class Search {
 
   void Town() const {
     Check(Input::DistanceInTown);
-    if (Value(Input::DistanceInTown) != 0) Fetch();
+    if (!Country()) Fetch();
   }
 
   void SiteSpeed() const {
@@ -97,6 +97,8 @@ class Search {
  private:
   double Value(Input input) const { return m_inputs.Value(input, m_sector); }
   double Usable(Input input) const { return m_inputs.Usable(input, m_sector); }
+
+  bool Country() const { return InCountry(Value(Input::DistanceInTown), Usable(Input::DistanceToSea)); }
 
   void Check(Input input) const {
     if (std::isnan(Usable(input)))

@@ -19,6 +19,7 @@ double ReducedVariate(double risk) {
 }  // namespace
 
 double ProbabilityFactor(double risk) {
+  if (std::isnan(risk)) return risk;
   return std::sqrt((5 + ReducedVariate(risk)) / (5 + ReducedVariate(0.02)));
 }
 

@@ -32,9 +32,13 @@ std::optional<Figure4Key::Line> SizeEffectLine(double he, double toSea, double i
 }
 
 std::array<double, 3> SizeEffectFactors(double a) {
+  std::array<double, 3> factors{};
+  if (std::isnan(a)) {
+    factors.fill(kNotKnown);
+    return factors;
+  }
   const double gt =
       kGustPeakAt5m - kGustPeakFall * LogOfDiagonal(a > kGreatestDiagonal ? kGreatestDiagonal : a);
-  std::array<double, 3> factors{};
   for (std::size_t line = 0; line < factors.size(); ++line) {
     const double turbulence = kFigure4LineTurbulence[line];
     const double ratio = (1 + gt * turbulence) / (1 + kGustPeakAt5m * turbulence);

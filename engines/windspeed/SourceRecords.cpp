@@ -131,8 +131,9 @@ class Records {
     };
     const double ho = Value(Input::ObstructionHeight);
     if (ho == 0) return record(SourceStatus::Confirmed, "no obstructions: 0");
-    if (Value(Input::DistanceInTown) == 0) return record(SourceStatus::Recalled, "country terrain: 0");
-    if (Value(Input::DistanceToSea) == 0)
+    if (Value(Input::DistanceInTown) < kLeastTown)
+      return record(SourceStatus::Recalled, "country terrain: 0");
+    if (InCountry(Value(Input::DistanceInTown), m_inputs.Usable(Input::DistanceToSea, m_sector)))
       return record(SourceStatus::EngineChoice, "at the sea: as country, 0");
     if (ho < 0) return record(SourceStatus::EngineChoice, "Ho below 0: 0");
     return record(SourceStatus::Confirmed, "1.2 Ho - 0.2 Xo, from 0 to 0.8 Ho");
@@ -191,7 +192,7 @@ class Records {
     }
     SourceRecord record =
         Record(std::string(table.table), std::string(table.item), table.status, "country terrain: 1");
-    if (Value(Input::DistanceInTown) > 0) AddChoices(record, true);
+    if (Value(Input::DistanceInTown) >= kLeastTown) AddChoices(record, true);
     return record;
   }
 

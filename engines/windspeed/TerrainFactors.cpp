@@ -1,7 +1,5 @@
 #include "windspeed/TerrainFactors.h"
 
-#include <cmath>
-
 #include "windspeed/tables/Table22FetchFactor.h"
 #include "windspeed/tables/Table22TurbulenceFactor.h"
 #include "windspeed/tables/Table23FetchAdjustment.h"
@@ -18,8 +16,9 @@ static_assert(kTable22FetchFactor.km == kTable22TurbulenceFactor.km &&
               kTable23FetchAdjustment.km == kTable23TurbulenceAdjustment.km);
 
 double TownDistance(double inTown, double toSea) {
-  if (inTown == 0 || std::isnan(inTown)) return inTown;
-  return toSea >= inTown ? inTown : toSea;
+  if (std::isnan(inTown)) return inTown;
+  if (InCountry(inTown, toSea)) return 0;
+  return std::isnan(toSea) || toSea < inTown ? toSea : inTown;
 }
 
 TerrainPlace PlaceOf(double he, double toSea, double inTown) {
@@ -43,6 +42,7 @@ TerrainFactors FactorsAt(const TerrainPlace& place) {
 }
 
 double Table4Factor(double he, double toSea, double inTown) {
+  if (!AllKnown(he, toSea, inTown)) return kNotKnown;
   if (inTown >= kTownFetch) return At(kTable4Town, Locate(kTable4Town.he, he), Locate(kTable4Town.km, toSea));
   return At(kTable4Country, Locate(kTable4Country.he, he), Locate(kTable4Country.km, toSea));
 }

@@ -1,12 +1,16 @@
 // Terrain factors of a site: Tables 22 and 23, and Sb of the standard method from Table 4.
 #pragma once
 
+#include <cmath>
+
 #include "windspeed/Interpolation.h"
 
 namespace orve::windspeed {
 
 /// A town reaching this far upwind counts as town in Table 4 and Figure 4 (km).
 inline constexpr double kTownFetch = 2;
+/// A town that reaches less far upwind is country: Table 23 begins here (km).
+inline constexpr double kLeastTown = 0.1;
 /// Table 4 ends at this effective height (m); above it stand Tables 22 and 23.
 inline constexpr double kTable4Height = 100;
 
@@ -24,6 +28,12 @@ struct TerrainFactors {
   double Tc = 1;
   double Tt = 1;
 };
+
+/// Whether a site is in country terrain: in no town, or nearer to the sea than a town reaches at the least
+/// (the engine's choice). `inTown` is a number; a `toSea` that isn't counts as far.
+inline bool InCountry(double inTown, double toSea) {
+  return inTown < kLeastTown || (!std::isnan(toSea) && toSea < kLeastTown);
+}
 
 /// Distance in the town that counts in Table 23 (km): not more than the distance to the sea (the engine's
 /// choice); 0 in country terrain. NaN if an input that counts is NaN.

@@ -115,19 +115,22 @@ double LocationFactor(const Feature& feature, double h) {
 
 double TopographicIncrement(const Feature& feature, double h) {
   if (!feature.known) return kNotKnown;
-  return feature.significant ? 2 * feature.effectiveSlope * LocationFactor(feature, h) : 0;
+  if (!feature.significant) return 0;
+  return std::isnan(h) ? h : 2 * feature.effectiveSlope * LocationFactor(feature, h);
 }
 
 double AltitudeFactor(const Feature& feature, double siteAltitude, double baseAltitude) {
   if (!feature.known) return kNotKnown;
-  return 1 + 0.001 * (feature.significant ? baseAltitude : siteAltitude);
+  const double altitude = feature.significant ? baseAltitude : siteAltitude;
+  return std::isnan(altitude) ? altitude : 1 + 0.001 * altitude;
 }
 
 double StandardAltitudeFactor(const Feature& feature, double h, double siteAltitude, double baseAltitude) {
+  if (!feature.known || std::isnan(siteAltitude)) return kNotKnown;
   const double bySite = 1 + 0.001 * siteAltitude;
-  if (!feature.significant) return feature.known ? bySite : kNotKnown;
+  if (!feature.significant) return bySite;
+  if (!AllKnown(baseAltitude, h)) return kNotKnown;
   const double byBase = 1 + 0.001 * baseAltitude + 1.2 * feature.effectiveSlope * LocationFactor(feature, h);
-  if (std::isnan(bySite) || std::isnan(byBase)) return kNotKnown;
   return std::max(bySite, byBase);
 }
 

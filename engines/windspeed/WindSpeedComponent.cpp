@@ -14,6 +14,8 @@ namespace orve::windspeed {
 
 namespace {
 
+constexpr double kLargest = std::numeric_limits<float>::max();
+
 std::size_t SectorIndex(WindSectors sector) {
   const auto value = static_cast<std::int32_t>(sector);
   if (value < 0 || value >= static_cast<std::int32_t>(kSectors))
@@ -149,8 +151,7 @@ std::size_t WindSpeedComponent::RequireSiteResults(WindSectors sector) const {
 }
 
 float WindSpeedComponent::Served(WindFactor factor, std::size_t sector, double value) const {
-  if (std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max()))
-    return static_cast<float>(value);
+  if (!std::isnan(value) && std::abs(value) <= kLargest) return static_cast<float>(value);
   Refuse(factor, m_used, sector);
 }
 
@@ -168,7 +169,8 @@ float WindSpeedComponent::Pressure(WindSectors sector) const {
   const std::size_t index = RequireSiteResults(sector);
   const double q = m_results.sectors[index].q;
   if (m_used.units == kPascals) return Served(WindFactor::q, index, q);
-  return Served(WindFactor::q, index, m_used.units == kKilonewtons ? q / 1000 : kNotKnown);
+  const bool known = m_used.units == kKilonewtons && !std::isnan(q);
+  return Served(WindFactor::q, index, known ? q / 1000 : kNotKnown);
 }
 
 float WindSpeedComponent::Sp() const {
@@ -198,7 +200,7 @@ float WindSpeedComponent::StandardSb(WindSectors sector) const {
 float WindSpeedComponent::StandardSa(WindSectors sector) const {
   const std::size_t index = RequireSiteResults(sector);
   const double factor = windspeed::StandardSa(m_results.sectors[index], m_used, index);
-  if (!(factor <= static_cast<double>(std::numeric_limits<float>::max()))) RefuseStandardSa(m_used, index);
+  if (std::isnan(factor) || factor > kLargest) RefuseStandardSa(m_used, index);
   return static_cast<float>(factor);
 }
 

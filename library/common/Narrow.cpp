@@ -7,6 +7,7 @@ void RaiseOverflow() {
 }
 
 double RoundHalfEven(double value) {
+  if (!std::isfinite(value)) return value;
   const double below = std::floor(value);
   const double fraction = value - below;
   if (fraction < 0.5) return below;
@@ -19,7 +20,8 @@ namespace {
 template <class Integer>
 Integer RoundInto(double value) {
   const double whole = RoundHalfEven(value);
-  if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max()))
+  if (std::isnan(whole) ||
+      !(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max()))
     RaiseOverflow();
   return static_cast<Integer>(whole);
 }

@@ -15,9 +15,11 @@ namespace orve {
 /// Narrows once to a 32-bit float; a finite value that is too large raises 6. NaN and infinity pass as they
 /// are.
 inline float ToSingle(double value) {
-  const float narrowed = static_cast<float>(value);
-  if (std::isinf(narrowed) && !std::isinf(value)) RaiseOverflow();
-  return narrowed;
+  // Half a step above the largest 32-bit value. It is compared before the conversion, which would raise a
+  // floating-point exception.
+  constexpr double tooLarge = 0x1.ffffffp127;
+  if (std::isfinite(value) && std::fabs(value) >= tooLarge) RaiseOverflow();
+  return static_cast<float>(value);
 }
 
 /// Narrows a whole number to 16 bits; raises 6 outside -32768 to 32767.

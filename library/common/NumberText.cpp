@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cfenv>
 #include <charconv>
 #include <cmath>
 
@@ -76,7 +77,7 @@ std::string PlainText(std::string_view sign, const Decimal& decimal, int places)
 }
 
 std::string NotFinite(double value) {
-  return std::isnan(value) ? "nan" : value < 0 ? "-inf" : "inf";
+  return std::isnan(value) ? "nan" : std::signbit(value) ? "-inf" : "inf";
 }
 
 template <class Float>
@@ -150,12 +151,30 @@ bool IsTiny(std::string_view number) {
   return exponent + static_cast<long>(point) - static_cast<long>(first) < 0;
 }
 
+// Rounding to nearest while a text is read: the standard library works short numbers out with a division,
+// which follows the mode that the host has set.
+class RoundingToNearest {
+ public:
+  RoundingToNearest() {
+    if (m_mode != FE_TONEAREST) std::fesetround(FE_TONEAREST);
+  }
+  ~RoundingToNearest() {
+    if (m_mode != FE_TONEAREST) std::fesetround(m_mode);
+  }
+  RoundingToNearest(const RoundingToNearest&) = delete;
+  RoundingToNearest& operator=(const RoundingToNearest&) = delete;
+
+ private:
+  int m_mode = std::fegetround();
+};
+
 template <class Float>
 Float Convert(std::string_view text) {
   std::string_view number = TrimBlanks(text);
   if (number.empty() || NumberLength(number) != number.size())
     throw Error(ErrorNumber::TypeMismatch, "Type mismatch: \"" + ShortText(text) + "\" isn't a number");
   if (number[0] == '+') number.remove_prefix(1);
+  const RoundingToNearest rounding;
   Float value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec != std::errc::result_out_of_range) return value;

@@ -77,6 +77,10 @@ float clsCommon::ValueForIntermediateSetting(float setting1, float setting2, flo
   return ToSingle(slope * (double(setting) - setting1) + value1);
 }
 
+std::int32_t clsCommon::ReverseSign(std::int32_t value) const {
+  return ToInt32(-static_cast<double>(value));
+}
+
 double clsCommon::CubeRoot(double value) const {
   if (value < 0)
     throw Error(ErrorNumber::InvalidArgument, "Invalid power: the cube root of a negative value");
@@ -86,6 +90,14 @@ double clsCommon::CubeRoot(double value) const {
 std::string clsCommon::MakeNumeric(const std::string& value, const std::string& defaultText) const {
   const std::string cut = IsNumericText(value) ? value : CutBack(CutFront(value));
   return IsNumericText(cut) ? std::string(TrimBlanks(cut)) : defaultText;
+}
+
+std::string clsCommon::MakeNumeric(std::int32_t value, const std::string& defaultText) const {
+  return value == 0 ? defaultText : std::to_string(value);
+}
+
+std::string clsCommon::MakeNumeric(float value, const std::string& defaultText) const {
+  return value == 0 ? defaultText : ShortestText(value);
 }
 
 std::string clsCommon::MakeNumeric(double value, const std::string& defaultText) const {
@@ -98,6 +110,18 @@ std::string clsCommon::MakeString(const char* value, const std::string& defaultT
 
 std::string clsCommon::MakeString(const std::string& value, const std::string&) const {
   return value;
+}
+
+std::string clsCommon::MakeString(std::int32_t value, const std::string&) const {
+  return std::to_string(value);
+}
+
+std::string clsCommon::MakeString(float value, const std::string&) const {
+  return ShortestText(value);
+}
+
+std::string clsCommon::MakeString(double value, const std::string&) const {
+  return ShortestText(value);
 }
 
 double clsCommon::MakeDate(const std::string& value, double defaultDate) const {

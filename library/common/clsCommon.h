@@ -27,7 +27,8 @@ class clsCommon {
   /// Straight-line interpolation, also beyond the two settings; value1 if they are equal.
   float ValueForIntermediateSetting(float setting1, float setting2, float value1, float value2,
                                     float setting) const;
-  /// 0 minus the value.
+  /// 0 minus the value, in its type. Errors: 6 for the least whole number.
+  std::int32_t ReverseSign(std::int32_t value) const;
   float ReverseSign(float value) const { return 0.0f - value; }
   double ReverseSign(double value) const { return 0.0 - value; }
   /// The value to the power 1/3. Errors: 5 for a negative value.
@@ -36,10 +37,15 @@ class clsCommon {
   /// Cuts a number out of a text such as "+1.234 kN/m²"; `defaultText` if there is none.
   std::string MakeNumeric(const std::string& value, const std::string& defaultText) const;
   /// The number as text; `defaultText` for 0.
+  std::string MakeNumeric(std::int32_t value, const std::string& defaultText) const;
+  std::string MakeNumeric(float value, const std::string& defaultText) const;
   std::string MakeNumeric(double value, const std::string& defaultText) const;
-  /// Null-safe text: `defaultText` for a null pointer.
+  /// Null-safe text: `defaultText` for a null pointer, else the value as text.
   std::string MakeString(const char* value, const std::string& defaultText) const;
   std::string MakeString(const std::string& value, const std::string& defaultText) const;
+  std::string MakeString(std::int32_t value, const std::string& defaultText) const;
+  std::string MakeString(float value, const std::string& defaultText) const;
+  std::string MakeString(double value, const std::string& defaultText) const;
   /// The date that a text stands for, or `defaultDate` if it doesn't convert.
   double MakeDate(const std::string& value, double defaultDate) const;
   /// Loose truth value: "FALSE", "0", "NO", "N" and "TRUE", "1", "-1", "YES", "Y" in any case; else the

@@ -35,8 +35,8 @@ struct Zone {
   bool IsOneOf(std::string_view letters) const {
     return name.size() == 1 && letters.find(name[0]) != std::string_view::npos;
   }
-  // Angles as the component may give them back, at 64 or at 32 bits.
-  bool At(double angle) const { return static_cast<float>(theta) == static_cast<float>(angle); }
+  // The angle reads back from the component exactly, at 64 bits.
+  bool At(double angle) const { return theta == angle; }
   bool AcrossRidge() const { return At(0) || At(180); }
   bool FromFace2() const { return At(90); }
   bool FromFace4() const { return At(270); }

@@ -37,7 +37,8 @@ WallZones clsInternalCoefficients::DominantOpening_SelectedZoneIndex(Faces face)
 }
 
 void clsInternalCoefficients::DominantOpening_SelectedZoneIndex(Faces face, WallZones value) {
-  StoreAndMarkDirty(m_DominantOpening_SelectedZoneIndex[FaceIndex(face)], ToInt16(value));
+  std::int16_t& selected = m_DominantOpening_SelectedZoneIndex[FaceIndex(face)];
+  StoreAndMarkDirty(selected, ToInt16(value));
 }
 
 // Looks for the chosen zone among the wall zones of the face.

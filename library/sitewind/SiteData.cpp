@@ -1,5 +1,5 @@
 // The site half of the class: its scalar values and the values by sector.
-#include "common/Narrow.h"
+#include "common/Error.h"
 #include "core/KeepAlive.h"
 #include "core/Marks.h"
 #include "sitewind/BVe2X.h"
@@ -48,7 +48,7 @@ void clsDynamicPressure::GridReference(const std::string& value) {
 }
 
 void clsDynamicPressure::SaBasedOn(SaBasedOnTypes value) {
-  StoreComponentInput(m_SaBasedOn, ToInt16(value));
+  StoreComponentInput(m_SaBasedOn, value);
 }
 void clsDynamicPressure::SiteAltitude(float value) {
   StoreComponentInput(m_SiteAltitude, value);
@@ -60,13 +60,13 @@ void clsDynamicPressure::AnnualRisk(float value) {
   StoreComponentInput(m_AnnualRisk, value);
 }
 void clsDynamicPressure::LifeTime(orve::LifeTime value) {
-  StoreComponentInput(m_LifeTime, ToInt16(value));
+  StoreComponentInput(m_LifeTime, value);
 }
 void clsDynamicPressure::Duration(Durations value) {
-  StoreComponentInput(m_Duration, ToInt16(value));
+  StoreComponentInput(m_Duration, value);
 }
 void clsDynamicPressure::StartMonth(Months value) {
-  StoreComponentInput(m_StartMonth, ToInt16(value));
+  StoreComponentInput(m_StartMonth, value);
 }
 
 float clsDynamicPressure::SectorValue(WindSectors windSector, float (BVe2X::*get)(WindSectors) const) {

@@ -47,8 +47,8 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
   /// Site reference of the component; empty: none. A change sets `IsDirty`, `SiteDirty` and `SiteSelected`.
   const std::string& GridReference() const { return m_GridReference; }
   void GridReference(const std::string& value);
-  /// Whether the altitude factor rests on altitude or on topography (2.2.2.2). Errors: 6 outside 16 bits.
-  SaBasedOnTypes SaBasedOn() const { return static_cast<SaBasedOnTypes>(m_SaBasedOn); }
+  /// Whether the altitude factor rests on altitude or on topography (2.2.2.2).
+  SaBasedOnTypes SaBasedOn() const { return m_SaBasedOn; }
   void SaBasedOn(SaBasedOnTypes value);
   /// Altitude of the site, metres.
   float SiteAltitude() const { return m_SiteAltitude; }
@@ -59,14 +59,14 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
   /// Annual risk of exceedance Q (annex D). Default 0.02.
   float AnnualRisk() const { return m_AnnualRisk; }
   void AnnualRisk(float value);
-  /// Stored and persisted, never sent to the component. Errors: 6 outside 16 bits.
-  orve::LifeTime LifeTime() const { return static_cast<orve::LifeTime>(m_LifeTime); }
+  /// Stored and persisted, never sent to the component.
+  orve::LifeTime LifeTime() const { return m_LifeTime; }
   void LifeTime(orve::LifeTime value);
-  /// Part of the year of the exposure (annex D). Errors: 6 outside 16 bits.
-  Durations Duration() const { return static_cast<Durations>(m_Duration); }
+  /// Part of the year of the exposure (annex D).
+  Durations Duration() const { return m_Duration; }
   void Duration(Durations value);
-  /// First month of the exposure (annex D). Errors: 6 outside 16 bits.
-  Months StartMonth() const { return static_cast<Months>(m_StartMonth); }
+  /// First month of the exposure (annex D).
+  Months StartMonth() const { return m_StartMonth; }
   void StartMonth(Months value);
 
   // Site data by sector. A get first brings the component up to date and then asks it; a let stores into the
@@ -193,13 +193,13 @@ class clsDynamicPressure : public std::enable_shared_from_this<clsDynamicPressur
   bool m_ManualResults = false;
   std::string m_GridReference;
   std::string m_SiteFault;  // why the site of the reference isn't there, as the component said
-  std::int16_t m_SaBasedOn = 0;
+  SaBasedOnTypes m_SaBasedOn{};
   float m_SiteAltitude = 0;
   float m_BasicWindSpeed = 0;
   float m_AnnualRisk = 0;
-  std::int16_t m_LifeTime = 0;
-  std::int16_t m_Duration = 0;
-  std::int16_t m_StartMonth = 0;
+  orve::LifeTime m_LifeTime{};
+  Durations m_Duration{};
+  Months m_StartMonth{};
   SectorValues m_CrestHeight_Z{};
   SectorValues m_SiteLocation_X{};
   SectorValues m_UpwindLength_LU{};

@@ -46,6 +46,11 @@ TEST(Common, CutsNumbersOutOfTexts) {
                             {"1.234 kN/m2", "none"}};
   for (const auto& [text, expected] : cases) EXPECT_EQ(common.MakeNumeric(text, "none"), expected) << text;
   EXPECT_EQ(common.MakeNumeric(0.0, "none"), "none");
+  EXPECT_EQ(common.MakeNumeric(0.1f, "none"), "0.1") << "at its own width";
+  EXPECT_EQ(common.MakeNumeric(5, "none"), "5");
+  EXPECT_EQ(common.MakeString(0, "none"), "0") << "a number, not a null pointer";
+  EXPECT_EQ(common.MakeString(nullptr, "none"), "none");
+  EXPECT_EQ(common.ReverseSign(5), -5);
   EXPECT_TRUE(common.MakeBoolean(" yes ", false));
   EXPECT_FALSE(common.MakeBoolean("N", true));
   EXPECT_TRUE(common.MakeBoolean("perhaps", true));

@@ -1,4 +1,7 @@
+#include <bit>
+#include <cfenv>
 #include <cmath>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -10,6 +13,51 @@
 namespace orve {
 
 using test::ErrorOf;
+
+// Texts of many values, and the values that are read from them, as a host would have them that has set a mode
+// of its own.
+std::string SampleTexts() {
+  std::string all;
+  std::uint32_t state = 1;
+  for (int i = 0; i < 5000; ++i) {
+    state = state * 1664525u + 1013904223u;
+    const auto value = std::bit_cast<float>(state);
+    const float plain = static_cast<float>(state >> 12) / 1024 - 300;
+    for (const float number : {value, plain}) {
+      all += ShortestText(number) + SevenDigitText(number) + FormatFixed(number, 3) + FormatSigned(number);
+      if (std::isfinite(number)) all += SevenDigitText(TextToSingle(SevenDigitText(number)));
+    }
+    all += ShortestText(std::bit_cast<double>(std::uint64_t{state} * 0x9E3779B97F4A7C15u)) + '\n';
+  }
+  for (const char* text : {"0.94", "0.565", "1e-3", "0.1", "123456.7", "9007199254740993"})
+    all += ShortestText(TextToSingle(text)) + ShortestText(TextToDouble(text));
+  return all;
+}
+
+TEST(NumberText, RestsOnNoRoundingMode) {
+  const std::string nearest = SampleTexts();
+  for (const int mode : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+    std::fesetround(mode);
+    const std::string texts = SampleTexts();
+    const bool kept = std::fegetround() == mode;
+    std::fesetround(FE_TONEAREST);
+    EXPECT_TRUE(texts == nearest) << mode;
+    EXPECT_TRUE(kept);
+  }
+}
+
+TEST(NumberText, NarrowingRaisesNoFloatingPointException) {
+  std::feclearexcept(FE_ALL_EXCEPT);
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const double value : {1e300, -1e300, infinity, std::nan(""), 70000.5}) {
+    ErrorOf([value] { ToSingle(value); });
+    ErrorOf([value] { ToInt16(value); });
+    ErrorOf([value] { ToInt32(value); });
+  }
+  EXPECT_FALSE(std::fetestexcept(FE_INVALID | FE_OVERFLOW));
+  EXPECT_EQ(ErrorOf([] { ToSingle(0x1.ffffffp127); }), 6);
+  EXPECT_EQ(ToSingle(std::nextafter(0x1.ffffffp127, 0)), std::numeric_limits<float>::max());
+}
 
 TEST(NumberText, FixedFormatRoundsTheShortestTextHalvesAwayFromZero) {
   const struct {

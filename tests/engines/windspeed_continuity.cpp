@@ -1,5 +1,6 @@
 // Along every axis the results run on without a jump, except where a rule of the standard or of the engine
 // has one.
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <string>
@@ -65,13 +66,12 @@ INSTANTIATE_TEST_SUITE_P(
         Sweep{"H", 0.1F, 120, "HybridCa", {{"A", 40}}, {20}},
         Sweep{"H", 3, 120, "HybridCa", {{"A", 40}, {"InTown", 6}}, {10, 20}},
         Sweep{"ToSea", 0, 150, "BSGust", {}, {}},
-        // Where the sea is nearer than the town's edge its distance counts for both; 0 is country.
-        Sweep{"ToSea", 0.001F, 150, "BSGust", kTown, {}}, Sweep{"ToSea", 0, 100, "Tc", kTown, {0.005}},
+        // Where the sea is nearer than the town's edge its distance counts for both; below 0.1 km is country.
+        Sweep{"ToSea", 0, 150, "BSGust", kTown, {0.1}}, Sweep{"ToSea", 0, 100, "Tc", kTown, {0.1}},
         Sweep{"ToSea", 0, 150, "HybridCa", {{"A", 40}, {"H", 4}}, {2}},
         Sweep{"ToSea", 0, 150, "HybridCa", {{"A", 40}, {"H", 15}}, {10}},
-        Sweep{"InTown", 0.001F, 40, "BSGust", {}, {}},
-        // Any distance above 0 is town: the column 0.1 km, and obstructions count.
-        Sweep{"InTown", 0, 40, "BSGust", {}, {0.002}}, Sweep{"InTown", 0, 40, "He", kTown, {0.002}},
+        // Town from 0.1 km on: Table 23 begins, and obstructions count.
+        Sweep{"InTown", 0, 40, "BSGust", {}, {0.1}}, Sweep{"InTown", 0, 40, "He", kTown, {0.1}},
         Sweep{"InTown", 0.001F, 40, "HybridCa", {{"A", 40}, {"H", 4}}, {2}},
         Sweep{"ObsHt", -5, 30, "BSGust", kTown, {}}, Sweep{"ObsSep", 0, 100, "BSGust", kTown, {}},
         Sweep{"A", 0, 1200, "gt", {}, {}}, Sweep{"A", 0, 1200, "Sb", kTown, {}},
@@ -94,6 +94,42 @@ INSTANTIATE_TEST_SUITE_P(
         Sweep{"DnwLen", 61, 600, "Sh", {{"CrestHt", 20}, {"UpwLen", 100}, {"CrestX", 160}}, {320, 400}},
         Sweep{"H", 1, 320, "Sh", {{"CrestHt", 20}, {"UpwLen", 100}, {"DnwLen", 100}}, {200}},
         Sweep{"Risk", 0.001F, 0.999F, "Sp", {}, {}}));
+
+// Along X a feature jumps at the ends of its reach and, where that is longer on a steep one, of the fits.
+TEST(WindSpeedContinuity, FeaturesJumpAtTheirReachAndAtTheEndsOfTheFits) {
+  constexpr double z = 50;
+  constexpr double step = 0.1;
+  int jumps = 0;
+  for (const double slope : {0.1, 0.29, 0.4, 1.0, 2.0, 5.0})
+    for (const double downwind : {0.0, 0.3, 1.0, 1.9, 2.5})
+      for (const float height : {3.0F, 20.0F}) {
+        const double lu = z / slope;
+        const double ld = downwind * lu;
+        const bool steep = slope > 0.3;
+        const bool hill = ld > 0 && z / ld > 0.05;
+        const double upwindEnd = steep ? std::min(1.6 * z, 1.5 * lu) : 0.5 * lu;
+        const double hillEnd = steep ? std::min(1.6 * z, 2 * ld) : 0.5 * ld;
+        const double downwindEnd = hill ? hillEnd : steep ? 5 * z : 1.5 * lu;
+        const auto engine = Engine({{"CrestHt", static_cast<float>(z)},
+                                    {"UpwLen", static_cast<float>(lu)},
+                                    {"DnwLen", static_cast<float>(ld)},
+                                    {"H", height}});
+        SCOPED_TRACE("LU " + std::to_string(lu) + " LD " + std::to_string(ld));
+        double last = 0;
+        for (double x = -2 * lu - 2 * z; x < 2 * lu + 2 * ld + 6 * z; x += step) {
+          engine->setCrestX(kWest, static_cast<float>(x));
+          engine->Calculate();
+          const auto value = static_cast<double>(engine->Sh(kWest));
+          if (std::abs(value - last) > 0.05) {
+            ++jumps;
+            EXPECT_LE(std::min(std::abs(x + upwindEnd), std::abs(x - downwindEnd)), 1.01 * step)
+                << "Sh " << last << " to " << value << " at X " << x;
+          }
+          last = value;
+        }
+      }
+  EXPECT_GT(jumps, 40);
+}
 
 }  // namespace
 }  // namespace orve::test

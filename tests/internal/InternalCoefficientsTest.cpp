@@ -102,12 +102,16 @@ TEST_F(Internal, DiagonalByVolumeAndOpening) {
   EXPECT_EQ(internal->Calculated_DiagonalDimension_a(), 2);
   internal->DiagonalDimension_a(5);
   EXPECT_EQ(internal->Calculated_DiagonalDimension_a(), 5);
+  internal->InternalVolume(0);
+  EXPECT_EQ(internal->Calculated_DiagonalDimension_a(), 5) << "a volume of 0 isn't below 0";
   internal->StructureType(StructureTypes::Open_sided_building);
   EXPECT_EQ(internal->Calculated_DiagonalDimension_a(), 0);
   internal->StructureType(StructureTypes::Enclosed_building);
   internal->InternalVolume(-1);
   EXPECT_EQ(internal->Calculated_DiagonalDimension_a(), 0);
   EXPECT_EQ(ErrorOf([&] { internal->StructureType(StructureTypes(-40000)); }), 6);
+  EXPECT_EQ(ErrorOf([&] { internal->DominantOpening_SelectedZoneIndex(Faces(9), WallZones(70000)); }), 9)
+      << "the face comes first";
 }
 
 TEST_F(Internal, DominantOpeningTakesAPartOfItsZone) {

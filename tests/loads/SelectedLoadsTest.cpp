@@ -85,13 +85,29 @@ TEST_F(SelectedLoads, PairTheWindwardAndLeewardZonesOfAParapet) {
   const auto zone = [&](const char* description) {
     return Loads().ZoneIndexFromZoneDescription(description, Parapet, Face1);
   };
-  Cpe(Parapet, Face1, zone("B (windward)"), 1.5f, 0);
-  Cpe(Parapet, Face1, zone("B (leeward)"), 0, 0.75f);
+  const struct {
+    SelectedLoadTypes type;
+    const char* windward;
+    const char* leeward;
+    float pressure;
+    float suction;
+    const char* text;
+  } pairs[] = {{SelectedLoadTypes::A, "A (windward)", "A (leeward)", 2.5f, 1.25f, "+2.500, -1.250 kN/m²"},
+               {SelectedLoadTypes::B, "B (windward)", "B (leeward)", 1.5f, 0.75f, "+1.500, -0.750 kN/m²"},
+               {SelectedLoadTypes::C, "C (windward)", "C (leeward)", 1.25f, 0.5f, "+1.250, -0.500 kN/m²"},
+               {SelectedLoadTypes::D, "D (windward)", "D (leeward)", 1, 0.25f, "+1.000, -0.250 kN/m²"}};
+  for (const auto& pair : pairs) {
+    Cpe(Parapet, Face1, zone(pair.windward), pair.pressure, 0);
+    Cpe(Parapet, Face1, zone(pair.leeward), 0, pair.suction);
+  }
+  for (const auto& pair : pairs) {
+    Loads().SelectedLoadType(Parapet, Face1, pair.type);
+    EXPECT_EQ(Loads().SelectedLoadValues(Parapet, Face1), pair.text);
+  }
   Loads().SelectedLoadType(Parapet, Face1, SelectedLoadTypes::B);
-  EXPECT_EQ(Loads().SelectedLoadValues(Parapet, Face1), "+1.500, -0.750 kN/m²");
   Cpe(Parapet, Face1, zone("B (leeward)"), 0, 0);
   EXPECT_EQ(Loads().SelectedLoadValues(Parapet, Face1), "+1.500 kN/m²");
-  for (const auto type : {SelectedLoadTypes::C, SelectedLoadTypes::E, SelectedLoadTypes::Windward}) {
+  for (const auto type : {SelectedLoadTypes::E, SelectedLoadTypes::Windward}) {
     Loads().SelectedLoadType(Parapet, Face1, type);
     EXPECT_EQ(Loads().SelectedLoadValues(Parapet, Face1), "");
   }

@@ -39,7 +39,7 @@ def probability_factor(risk):
 
 def displacement_height(s):
     """1.7.3: sheltering counts in towns only."""
-    if s["town"] <= 0 or s["sea"] <= 0 or s["Ho"] <= 0:
+    if min(s["town"], s["sea"]) < fig.TOWN[0] or s["Ho"] <= 0:
         return 0.0
     return min(max(1.2 * s["Ho"] - 0.2 * s["Xo"], 0.0), 0.8 * s["Ho"])
 
@@ -125,7 +125,7 @@ def altitude_and_topography(site, s):
 def terrain(r, s):
     sea, town = s["sea"], min(s["town"], s["sea"])
     r["Sc"], r["St"] = (table(grid, fig.SEA, r["He"], sea) for grid in (fig.SC, fig.ST))
-    r["Tc"], r["Tt"] = (table(grid, fig.TOWN, r["He"], town) for grid in (fig.TC, fig.TT)) if town > 0 else (1, 1)
+    r["Tc"], r["Tt"] = (table(grid, fig.TOWN, r["He"], town) for grid in (fig.TC, fig.TT)) if town >= fig.TOWN[0] else (1, 1)
 
 
 def refuses(site, s):
