@@ -1,29 +1,21 @@
-#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <orve3_bs6399_2.h>
-#include <stdlib.h>
 #include <string>
 
 #include "BuiltInEngines.h"
 #include "FuzzTargets.h"
+#include "MemoryFolder.h"
 
 namespace orve::fuzz {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 /// A root object with a folder of its own, made once: a new one for each input would be slow.
 class Session {
  public:
   Session() {
-    const fs::path memory = "/dev/shm";
-    std::string name =
-        ((fs::exists(memory) ? memory : fs::temp_directory_path()) / "orve-fuzz-XXXXXX").string();
-    Require(::mkdtemp(name.data()) != nullptr, "a folder for the files");
-    m_folder = name;
-    Host().LibraryFolder = [this] { return m_folder.string(); };
+    Host().LibraryFolder = [this] { return m_folder.Path(); };
     Host().SystemDirectory = Host().LibraryFolder;
     Host().SaveFileDialog = [this](clsCommonDialog& dialog) {
       dialog.FileName = Saved();
@@ -36,16 +28,14 @@ class Session {
   ~Session() {
     m_case.reset();
     basBS6399_2::CurrentCase.reset();
-    std::error_code failure;
-    fs::remove_all(m_folder, failure);
   }
 
   clsCurrentCase& Case() { return *m_case; }
-  std::string Given() const { return (m_folder / "given.wlc").string(); }
-  std::string Saved() const { return (m_folder / "saved.wlc").string(); }
+  std::string Given() const { return m_folder.File("given.wlc"); }
+  std::string Saved() const { return m_folder.File("saved.wlc"); }
 
  private:
-  fs::path m_folder;
+  MemoryFolder m_folder;
   std::shared_ptr<clsCurrentCase> m_case;
 };
 

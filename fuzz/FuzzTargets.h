@@ -16,6 +16,9 @@ inline void Require(bool holds, const char* rule) {
 
 /// A case file: it opens or raises an error, and an opened case can be saved and opened again.
 void CaseFile(std::string_view input);
+/// Calls by name on the object model, with handlers that raise, clear, open and release: nothing but the
+/// library's own errors.
+void ObjectModel(std::string_view input);
 /// A profile file: a stored value is found again.
 void ProfileFile(std::string_view input);
 /// A calculation sheet: eight texts, parted by the byte 0xFF, at the places that a stranger can fill. The markup

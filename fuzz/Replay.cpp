@@ -17,6 +17,7 @@ struct Target {
   void (*run)(std::string_view);
 };
 constexpr Target Targets[] = {{"case_file", orve::fuzz::CaseFile},
+                              {"object_model", orve::fuzz::ObjectModel},
                               {"profile_file", orve::fuzz::ProfileFile},
                               {"sheet", orve::fuzz::Sheet},
                               {"texts", orve::fuzz::Texts}};

@@ -8,8 +8,8 @@ BUILD=build/fuzz
 
 cmake -S . -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
   -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link -DORVE_SANITIZE=ON -DORVE_BUILD_FUZZ=ON -DORVE_BUILD_TESTS=OFF \
-  -DORVE_BUILD_EXAMPLES=OFF -DORVE_BUILD_AUTOMATION=OFF >/dev/null &&
-  cmake --build "$BUILD" --target fuzz_CaseFile fuzz_ProfileFile fuzz_Sheet fuzz_Texts || exit 1
+  -DORVE_BUILD_EXAMPLES=OFF -DORVE_BUILD_AUTOMATION=ON -DORVE_BUILD_C=OFF -DORVE_BUILD_WINDCASE=OFF >/dev/null &&
+  cmake --build "$BUILD" --target fuzz_CaseFile fuzz_ObjectModel fuzz_ProfileFile fuzz_Sheet fuzz_Texts || exit 1
 
 failed=0
 fuzz() {
@@ -27,6 +27,7 @@ fuzz() {
   rmdir --ignore-fail-on-non-empty "$folder/findings"
 }
 fuzz fuzz_CaseFile case_file
+fuzz fuzz_ObjectModel object_model
 fuzz fuzz_ProfileFile profile_file
 fuzz fuzz_Sheet sheet
 fuzz fuzz_Texts texts
