@@ -1,11 +1,60 @@
+#include <algorithm>
+#include <cctype>
+
+#include "ComLibrary.h"
 #include "Generate.h"
 
 namespace orve::automation {
 
 namespace {
 
-// Identities of the library, fixed for ever.
-constexpr std::string_view LibraryGuid = "347500a3-d11a-40c7-8429-fab7b162211e";
+bool IsIdentifier(std::string_view text) {
+  const auto isPart = [](unsigned char letter) { return std::isalnum(letter) != 0 || letter == '_'; };
+  return !text.empty() && std::isalpha(static_cast<unsigned char>(text.front())) != 0 &&
+         std::all_of(text.begin(), text.end(), isPart);
+}
+
+/// How many names of the library, enumerators apart, and published names are this one, case ignored.
+std::ptrdiff_t CountOfName(std::string_view name) {
+  const auto isName = [name](const auto& described) { return SameName(described.name, name); };
+  const auto isClass = [name](const ClassDescription* description) {
+    return SameName(description->name, name);
+  };
+  std::ptrdiff_t count = std::count_if(Enumerations().begin(), Enumerations().end(), isName) +
+                         std::count_if(Records().begin(), Records().end(), isName) +
+                         std::count_if(ComClasses().begin(), ComClasses().end(), isClass);
+  for (const EnumerationDescription& enumeration : Enumerations())
+    count +=
+        std::count_if(enumeration.enumerators.begin(), enumeration.enumerators.end(),
+                      [name](const Enumerator& enumerator) { return SameName(enumerator.published, name); });
+  return count;
+}
+
+/// A published name that is a legal identifier and the only one in the library stands as it is.
+bool StandsAsPublished(const Enumerator& enumerator) {
+  return IsIdentifier(enumerator.published) && CountOfName(enumerator.published) == 1;
+}
+
+std::string FullEnumeratorName(const EnumerationDescription& enumeration, const Enumerator& enumerator) {
+  return std::string(enumeration.name) + "_" + std::string(enumerator.name);
+}
+
+std::string EnumeratorName(const EnumerationDescription& enumeration, const Enumerator& enumerator) {
+  return StandsAsPublished(enumerator) ? std::string(enumerator.published)
+                                       : FullEnumeratorName(enumeration, enumerator);
+}
+
+/// Names of one or two letters are no good in a header, where they would bar every such variable and template
+/// argument.
+std::string HeaderNames() {
+  std::string text = "#ifdef ORVE_HEADER\n";
+  for (const EnumerationDescription& enumeration : Enumerations())
+    for (const Enumerator& enumerator : enumeration.enumerators)
+      if (StandsAsPublished(enumerator) && enumerator.published.size() <= 2)
+        text += "#define " + std::string(enumerator.published) + " " +
+                FullEnumeratorName(enumeration, enumerator) + "\n";
+  return text + "#endif\n\n";
+}
 
 std::string ComType(const Type& type) {
   switch (type.kind) {
@@ -100,6 +149,8 @@ std::string ClassText(const ClassDescription& description) {
   std::string text = "    [uuid(" + std::string(description.identity.classGuid) + ")" +
                      (description.create == nullptr ? ", noncreatable" : "") + "]\n    coclass " + name +
                      " {\n        [default] interface I" + name + ";\n";
+  if (&description == ComClasses().front())
+    text += "        interface I" + std::string(DescribeComLibrary().name) + ";\n";
   if (!description.events.empty()) text += "        [default, source] dispinterface I" + name + "Events;\n";
   return text + "    };\n\n";
 }
@@ -107,15 +158,15 @@ std::string ClassText(const ClassDescription& description) {
 }  // namespace
 
 std::string ComInterface() {
-  std::string text = "// " + std::string(GeneratedNote) + "\nimport \"oaidl.idl\";\n\n[uuid(" +
-                     std::string(LibraryGuid) +
+  std::string text = "// " + std::string(GeneratedNote) + "\nimport \"oaidl.idl\";\n\n" + HeaderNames() +
+                     "[uuid(" + std::string(TypeLibraryGuid) +
                      "), version(3.0), helpstring(\"ORVE BS6399-2 Library 3.0\")]\nlibrary ORVE3_BS6399_2 {\n"
                      "    importlib(\"stdole2.tlb\");\n\n";
   for (const EnumerationDescription& enumeration : Enumerations()) {
     const std::string name(enumeration.name);
     text += "    typedef [helpstring(\"" + std::string(enumeration.help) + "\")] enum " + name + " {\n";
     for (const Enumerator& enumerator : enumeration.enumerators)
-      text += "        " + name + "_" + std::string(enumerator.name) + " = " +
+      text += "        " + EnumeratorName(enumeration, enumerator) + " = " +
               std::to_string(enumerator.value) + ",\n";
     text.erase(text.size() - 2, 1);
     text += "    } " + name + ";\n\n";
@@ -128,12 +179,12 @@ std::string ComInterface() {
       text += "        " + ComType(field.type) + " " + std::string(field.name) + ";\n";
     text += "    } " + name + ";\n\n";
   }
-  for (const ClassDescription* description : Classes())
+  for (const ClassDescription* description : ComClasses())
     text += "    interface I" + std::string(description->name) + ";\n";
   text += "\n";
-  for (const ClassDescription* description : Classes())
+  for (const ClassDescription* description : ComClasses())
     text += InterfaceText(*description) + EventsText(*description);
-  for (const ClassDescription* description : Classes()) text += ClassText(*description);
+  for (const ClassDescription* description : ComClasses()) text += ClassText(*description);
   text.pop_back();
   return text + "};\n";
 }

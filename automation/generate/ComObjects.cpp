@@ -1,3 +1,4 @@
+#include "ComLibrary.h"
 #include "Generate.h"
 
 namespace orve::automation {
@@ -91,7 +92,7 @@ std::string ComObjectBody(const ClassDescription& description) {
 std::string ComClassTable() {
   std::string functions;
   std::string rows;
-  for (const ClassDescription* description : Classes()) {
+  for (const ClassDescription* description : ComClasses()) {
     const std::string name(description->name);
     functions += "Object* New_" + name + "(const automation::ObjectReference& reference);\n";
     rows += "    {\"" + name + "\", &New_" + name + "},\n";

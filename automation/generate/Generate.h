@@ -36,6 +36,9 @@ std::string PythonStub();
 std::string ComInterface();
 std::string ComObjectBody(const ClassDescription& description);
 std::string ComClassTable();
+/// Manifest by which a host uses the COM library without registration; version and architecture are left
+/// open.
+std::string ComManifest();
 
 // The reference pages.
 std::string ReferenceIndex();

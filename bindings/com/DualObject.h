@@ -1,6 +1,7 @@
 // The interfaces of an object: its own dual one and those that hosts ask for beside it.
 #pragma once
 
+#include "../FloatState.h"
 #include "ORVE3_BS6399_2.h"
 #include "Object.h"
 
@@ -12,6 +13,7 @@ class DualObject : public Interface, public ISupportErrorInfo, public IProvideCl
   using Object::Object;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identity, void** result) override {
+    if (Whole() != nullptr) return Whole()->QueryInterface(identity, result);
     if (result == nullptr) return E_POINTER;
     *result = nullptr;
     if (identity == ObjectIdentity) {
@@ -26,14 +28,20 @@ class DualObject : public Interface, public ISupportErrorInfo, public IProvideCl
       *result = static_cast<IProvideClassInfo2*>(this);
     else if (identity == IID_IConnectionPointContainer)
       *result = Events();
+    else
+      *result = FurtherInterface(identity);
     if (*result == nullptr) return E_NOINTERFACE;
     AddRef();
     return S_OK;
   }
-  ULONG STDMETHODCALLTYPE AddRef() override { return Count(1); }
+  ULONG STDMETHODCALLTYPE AddRef() override { return Whole() != nullptr ? Whole()->AddRef() : Count(1); }
   ULONG STDMETHODCALLTYPE Release() override {
+    if (Whole() != nullptr) return Whole()->Release();
     const ULONG count = Count(-1);
-    if (count == 0) delete this;
+    if (count == 0) {
+      const LibraryFloatState state;
+      delete this;
+    }
     return count;
   }
 
@@ -49,9 +57,9 @@ class DualObject : public Interface, public ISupportErrorInfo, public IProvideCl
                                           DISPID* numbers) override {
     return NumbersOfNames(names, count, numbers);
   }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID identity, LCID, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) override {
-    return InvokeByNumber(number, flags, parameters, result, exception, wrongArgument);
+    return InvokeByNumber(number, identity, flags, parameters, result, exception, wrongArgument);
   }
 
   HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID identity) override {

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "Module.h"
 #include "System.h"
 
 namespace orve::com {
@@ -14,7 +15,11 @@ template <class Interface, class Raw, class Item>
 class Enumerator final : public Interface {
  public:
   Enumerator(const GUID& identity, std::vector<Item> items, std::size_t position = 0)
-      : m_identity(identity), m_items(std::move(items)), m_position(position) {}
+      : m_identity(identity), m_items(std::move(items)), m_position(position) {
+    CountModule(1);
+  }
+  Enumerator(const Enumerator&) = delete;
+  Enumerator& operator=(const Enumerator&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identity, void** result) override {
     if (result == nullptr) return E_POINTER;
@@ -53,6 +58,8 @@ class Enumerator final : public Interface {
   }
 
  private:
+  ~Enumerator() { CountModule(-1); }
+
   GUID m_identity;
   std::vector<Item> m_items;
   std::size_t m_position;

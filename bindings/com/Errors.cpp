@@ -5,7 +5,6 @@
 #include <string>
 
 #include "Text.h"
-#include "common/Error.h"
 
 namespace orve::com {
 
@@ -70,43 +69,90 @@ void RaiseIfFailed(HRESULT result) {
   throw Error(NumberOf(result), "The system's error " + HexText(result));
 }
 
-// A lack of memory costs the texts alone.
-void FillException(EXCEPINFO& exception, const automation::ErrorReport& report) noexcept {
-  exception = {};
-  exception.scode = ResultOf(report.number);
+Failure CurrentFailure() noexcept {
+  Failure failure;
+  failure.result = ResultOf(static_cast<int>(automation::DispatchError::OutOfMemory));
   try {
-    exception.bstrSource = NewText(SourceName);
-    exception.bstrDescription = NewText(report.text);
+    throw;
+  } catch (const HandlerError& error) {
+    try {
+      failure = error.Details();
+    } catch (...) {
+    }
+  } catch (...) {
+    try {
+      const automation::ErrorReport report = automation::CurrentError();
+      failure.result = ResultOf(report.number);
+      failure.text = report.text;
+    } catch (...) {
+    }
+  }
+  return failure;
+}
+
+// A lack of memory costs the texts alone.
+void FillException(EXCEPINFO& exception, const Failure& failure) noexcept {
+  exception = {};
+  exception.scode = failure.result;
+  exception.dwHelpContext = failure.helpContext;
+  try {
+    exception.bstrSource = NewText(failure.source);
+    exception.bstrDescription = NewText(failure.text);
+    if (!failure.helpFile.empty()) exception.bstrHelpFile = NewText(failure.helpFile);
   } catch (...) {
   }
 }
 
-automation::ErrorReport TakeException(EXCEPINFO& exception) {
+Failure TakeException(EXCEPINFO& exception) {
   if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
-  automation::ErrorReport report;
-  report.number = exception.wCode != 0 ? exception.wCode : NumberOf(exception.scode);
-  report.text = FromText(exception.bstrDescription);
+  Failure failure;
+  failure.result = exception.wCode != 0 ? ResultOf(exception.wCode) : exception.scode;
+  if (!FAILED(failure.result)) failure.result = ResultOf(AutomationFailed);
+  failure.text = FromText(exception.bstrDescription);
+  failure.source = FromText(exception.bstrSource);
+  failure.helpFile = FromText(exception.bstrHelpFile);
+  failure.helpContext = exception.dwHelpContext;
   ::SysFreeString(exception.bstrSource);
   ::SysFreeString(exception.bstrDescription);
   ::SysFreeString(exception.bstrHelpFile);
   exception = {};
-  if (report.number == 0) report.number = AutomationFailed;
-  return report;
+  return failure;
 }
 
-HRESULT LeaveErrorInformation(const automation::ErrorReport& report, const GUID& interfaceIdentity) noexcept {
+Failure TakeErrorInformation(HRESULT result) {
+  Failure failure;
+  failure.result = result;
+  failure.text = "The host's handler failed with result " + HexText(result);
+  ComPointer<IErrorInfo> information;
+  if (::GetErrorInfo(0, information.Receive()) != S_OK) return failure;
+  const auto take = [&information](HRESULT (STDMETHODCALLTYPE IErrorInfo::*get)(BSTR*), std::string& text) {
+    BSTR given = nullptr;
+    if (FAILED((information.Get()->*get)(&given)) || given == nullptr) return;
+    text = FromText(given);
+    ::SysFreeString(given);
+  };
+  take(&IErrorInfo::GetDescription, failure.text);
+  take(&IErrorInfo::GetSource, failure.source);
+  take(&IErrorInfo::GetHelpFile, failure.helpFile);
+  information->GetHelpContext(&failure.helpContext);
+  return failure;
+}
+
+HRESULT LeaveErrorInformation(const Failure& failure, const GUID& interfaceIdentity) noexcept {
   try {
     ComPointer<ICreateErrorInfo> created;
     RaiseIfFailed(::CreateErrorInfo(created.Receive()));
     created->SetGUID(interfaceIdentity);
-    created->SetSource(ToWide(SourceName).data());
-    created->SetDescription(ToWide(report.text).data());
+    created->SetSource(ToWide(failure.source).data());
+    created->SetDescription(ToWide(failure.text).data());
+    created->SetHelpFile(ToWide(failure.helpFile).data());
+    created->SetHelpContext(failure.helpContext);
     ComPointer<IErrorInfo> information;
     RaiseIfFailed(created->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(information.Receive())));
     ::SetErrorInfo(0, information.Get());
   } catch (...) {
   }
-  return ResultOf(report.number);
+  return failure.result;
 }
 
 }  // namespace orve::com

@@ -8,7 +8,6 @@
 #include "Object.h"
 #include "Text.h"
 #include "Variants.h"
-#include "common/Error.h"
 
 namespace orve::com {
 
@@ -28,15 +27,28 @@ struct SinkItem {
   void Give(CONNECTDATA& raw) const { raw = {ComPointer<IDispatch>(sink).Detach(), cookie}; }
 };
 
-/// Hands an event to a sink. What the sink raises passes to the caller of the member that raised the event; a
-/// sink that can't be reached, or has no use for the event, is passed over.
-void Deliver(IDispatch* sink, int number, DISPPARAMS& parameters) {
+bool HasNoUse(HRESULT result) {
+  return result == DISP_E_MEMBERNOTFOUND || result == E_NOTIMPL;
+}
+
+bool IsGone(HRESULT result) {
+  return result == RPC_E_DISCONNECTED || result == RPC_E_SERVER_DIED || result == CO_E_OBJNOTCONNECTED;
+}
+
+/// Hands an event to a sink. False if the sink isn't there any more. What it raises passes to the caller of
+/// the member that raised the event; a sink that has no use for the event is passed over.
+bool Deliver(IDispatch* sink, int number, DISPPARAMS& parameters) {
   EXCEPINFO exception{};
-  const HRESULT result = sink->Invoke(static_cast<DISPID>(number), IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD,
-                                      &parameters, nullptr, &exception, nullptr);
-  if (result != DISP_E_EXCEPTION) return;
-  const automation::ErrorReport report = TakeException(exception);
-  throw Error(report.number, report.text);
+  ::SetErrorInfo(0, nullptr);
+  const HRESULT result = [&] {
+    const HostFloatState state;
+    return sink->Invoke(static_cast<DISPID>(number), IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters,
+                        nullptr, &exception, nullptr);
+  }();
+  if (result == DISP_E_EXCEPTION) throw HandlerError(TakeException(exception));
+  if (SUCCEEDED(result) || HasNoUse(result)) return true;
+  if (IsGone(result)) return false;
+  throw HandlerError(TakeErrorInformation(result));
 }
 
 }  // namespace
@@ -68,7 +80,12 @@ void EventSource::Raise(const EventDescription& event, std::span<const Value> ar
   DISPPARAMS parameters{row.data(), nullptr, static_cast<UINT>(row.size()), 0};
   const std::vector<Sink> sinks = m_sinks;
   for (const Sink& sink : sinks)
-    if (IsConnected(sink.cookie)) Deliver(sink.dispatch.Get(), event.number, parameters);
+    if (IsConnected(sink.cookie) && !Deliver(sink.dispatch.Get(), event.number, parameters))
+      Drop(sink.cookie);
+}
+
+void EventSource::Drop(DWORD cookie) {
+  std::erase_if(m_sinks, [cookie](const Sink& sink) { return sink.cookie == cookie; });
 }
 
 bool EventSource::IsConnected(DWORD cookie) const {
@@ -134,6 +151,7 @@ HRESULT EventSource::PointPart::Advise(IUnknown* sink, DWORD* cookie) {
   ComPointer<IDispatch> dispatch;
   // A sink answers to the identity of the events, or to late binding alone.
   const auto ask = [&](const GUID& identity) {
+    const HostFloatState state;
     return SUCCEEDED(sink->QueryInterface(identity, reinterpret_cast<void**>(dispatch.Receive())));
   };
   if (!ask(m_source.Identity()) && !ask(IID_IDispatch)) return CONNECT_E_CANNOTCONNECT;

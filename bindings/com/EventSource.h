@@ -58,6 +58,7 @@ class EventSource {
   GUID Identity() const;
   void Connect();
   void Raise(const automation::EventDescription& event, std::span<const automation::Value> arguments);
+  void Drop(DWORD cookie);
   bool IsConnected(DWORD cookie) const;
 
   Object& m_owner;

@@ -1,12 +1,14 @@
 // The four entry points of the library, and the factory of the classes that a host can create.
 #include <atomic>
 
+#include "ComLibrary.h"
 #include "ComPointer.h"
 #include "Errors.h"
 #include "HostServices.h"
 #include "Module.h"
 #include "Object.h"
 #include "OutsideComponents.h"
+#include "Plain.h"
 #include "Registration.h"
 #include "System.h"
 #include "Text.h"
@@ -52,7 +54,7 @@ class Factory final : public IClassFactory {
     ComPointer<IDispatch> made;
     const HRESULT failure = Guarded(IID_IClassFactory, [&] {
       PrepareLibrary();
-      made = Wrap(automation::CreateObject(m_class.name));
+      made = Wrap({m_class.create(), &m_class});
     });
     return FAILED(failure) ? failure : made->QueryInterface(identity, result);
   }
@@ -71,9 +73,12 @@ class Factory final : public IClassFactory {
 /// The root object and the components live on until the library goes; their last moment in which foreign
 /// objects can still be released is this one.
 void LetGoOfComponents() {
+  const LibraryFloatState state;
   basBS6399_2::CurrentCase.reset();
   basBS6399_2::BreVe.reset();
   basBS6399_2::BreCp.reset();
+  ForgetRecordInformation();
+  ForgetTypeInformation();
 }
 
 }  // namespace
@@ -85,7 +90,7 @@ using namespace orve::com;
 STDAPI DllGetClassObject(REFCLSID classIdentity, REFIID identity, void** result) {
   if (result == nullptr) return E_POINTER;
   *result = nullptr;
-  for (const orve::automation::ClassDescription* description : orve::automation::Classes()) {
+  for (const orve::automation::ClassDescription* description : orve::automation::ComClasses()) {
     if (description->create == nullptr || ToGuid(description->identity.classGuid) != classIdentity) continue;
     ComPointer<IClassFactory> factory;
     *factory.Receive() = new Factory(*description);

@@ -17,6 +17,12 @@ HINSTANCE g_instance = nullptr;
 bool g_stands = true;
 std::atomic<long> g_count{0};
 
+// Plain pointers: at the end of the process the system's own library may be gone before this one.
+std::vector<std::pair<GUID, ITypeInfo*>>& KeptTypes() {
+  static std::vector<std::pair<GUID, ITypeInfo*>> kept;
+  return kept;
+}
+
 }  // namespace
 
 std::wstring ModulePath() {
@@ -48,13 +54,17 @@ ComPointer<ITypeLib> TypeLibrary() {
 }
 
 ITypeInfo* TypeInformation(const GUID& identity) {
-  static std::vector<std::pair<GUID, ITypeInfo*>> kept;
-  for (const auto& [guid, information] : kept)
+  for (const auto& [guid, information] : KeptTypes())
     if (guid == identity) return information;
   ComPointer<ITypeInfo> information;
   RaiseIfFailed(TypeLibrary()->GetTypeInfoOfGuid(identity, information.Receive()));
-  kept.emplace_back(identity, information.Get());
+  KeptTypes().emplace_back(identity, information.Get());
   return information.Detach();
+}
+
+void ForgetTypeInformation() {
+  for (const auto& [guid, information] : KeptTypes()) information->Release();
+  KeptTypes().clear();
 }
 
 }  // namespace orve::com

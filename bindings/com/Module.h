@@ -22,7 +22,9 @@ bool ModuleStands();
 
 /// The type library that the file carries. Errors: as `RaiseComError` gives them.
 ComPointer<ITypeLib> TypeLibrary();
-/// A type by its identity; kept for the life of the library. Errors: as above.
+/// A type by its identity; kept until `ForgetTypeInformation`. Errors: as above.
 ITypeInfo* TypeInformation(const GUID& identity);
+/// Lets go of the types that were asked for, before the library goes.
+void ForgetTypeInformation();
 
 }  // namespace orve::com

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "Classes.h"
+#include "ComLibrary.h"
 #include "Errors.h"
 #include "EventSource.h"
 #include "Module.h"
@@ -44,28 +46,38 @@ const ArgumentDescription* ArgumentAt(const MemberDescription& member, DISPID nu
 struct LateArguments {
   std::vector<Value> positional;
   std::vector<NamedArgument> named;
-  const VARIANT* newValue = nullptr;
+  std::optional<Value> newValue;
 
-  LateArguments(const MemberDescription& member, const DISPPARAMS& parameters) {
+  /// `at` is the place of the argument that is being converted.
+  LateArguments(const ObjectReference& object, const MemberDescription& member, const DISPPARAMS& parameters,
+                UINT& at) {
+    const auto convert = [&](UINT place, const automation::Type& type, std::string_view name) {
+      at = place;
+      try {
+        return FromVariant(parameters.rgvarg[place], type);
+      } catch (const Error& error) {
+        throw Error(error.Number(), std::string(object.type->name) + "." + std::string(member.name) + ", " +
+                                        std::string(name) + ": " + error.what());
+      }
+    };
     for (UINT i = 0; i < parameters.cNamedArgs; ++i) {
       const DISPID number = parameters.rgdispidNamedArgs[i];
-      const VARIANT& variant = parameters.rgvarg[i];
       if (number == DISPID_PROPERTYPUT) {
-        newValue = &variant;
+        newValue = convert(i, member.type, "value");
         continue;
       }
       const ArgumentDescription* argument = ArgumentAt(member, number);
       if (argument == nullptr)
         throw Error(static_cast<int>(automation::DispatchError::NamedArgumentNotFound),
                     std::string(member.name) + " has no argument of number " + std::to_string(number));
-      named.push_back({argument->name, FromVariant(variant, argument->type)});
+      named.push_back({argument->name, convert(i, argument->type, argument->name)});
     }
     for (UINT i = parameters.cArgs; i > parameters.cNamedArgs; --i) {
       const ArgumentDescription* argument = ArgumentAt(member, static_cast<DISPID>(positional.size()));
       // One too many is told by the dispatch, whatever it holds.
-      positional.push_back(argument == nullptr ? Value()
-                                               : FromVariant(parameters.rgvarg[i - 1], argument->type));
+      positional.push_back(argument == nullptr ? Value() : convert(i - 1, argument->type, argument->name));
     }
+    at = 0;
   }
 };
 
@@ -83,6 +95,17 @@ Object::~Object() {
 
 ULONG Object::Count(int change) {
   return m_count += static_cast<ULONG>(change);
+}
+
+IUnknown* Object::FurtherInterface(REFIID identity) {
+  const automation::ClassDescription& library = automation::DescribeComLibrary();
+  if (m_reference.type != automation::Classes().front() || identity != ToGuid(library.identity.interfaceGuid))
+    return nullptr;
+  if (!m_library) {
+    m_library.reset(New_clsLibrary({library.create(), &library}));
+    m_library->m_whole = Dispatch();
+  }
+  return m_library->Dispatch();
 }
 
 GUID Object::InterfaceIdentity() const {
@@ -172,29 +195,32 @@ HRESULT Object::NumbersOfNames(LPOLESTR* names, UINT count, DISPID* numbers) {
   return result;
 }
 
-HRESULT Object::InvokeByNumber(DISPID number, WORD flags, DISPPARAMS* parameters, VARIANT* result,
-                               EXCEPINFO* exception, UINT* wrongArgument) {
+HRESULT Object::InvokeByNumber(DISPID number, REFIID identity, WORD flags, DISPPARAMS* parameters,
+                               VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) {
+  const LibraryFloatState state;
+  if (identity != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (parameters == nullptr) return E_POINTER;
   if (result != nullptr) ::VariantInit(result);
-  if (wrongArgument != nullptr) *wrongArgument = 0;
+  UINT unwanted = 0;
+  UINT& wrong = wrongArgument != nullptr ? *wrongArgument : unwanted;
+  wrong = 0;
   const MemberDescription* member = m_reference.type->Find(static_cast<int>(number));
   if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
   const ComPointer<IDispatch> keep(Dispatch());
   try {
-    return CallByNumber(*member, flags, *parameters, result);
+    return CallByNumber(*member, flags, *parameters, result, wrong);
   } catch (...) {
-    if (exception != nullptr) FillException(*exception, automation::CurrentError());
+    if (exception != nullptr) FillException(*exception, CurrentFailure());
     return DISP_E_EXCEPTION;
   }
 }
 
 HRESULT Object::CallByNumber(const MemberDescription& member, WORD flags, const DISPPARAMS& parameters,
-                             VARIANT* result) {
-  const LateArguments arguments(member, parameters);
+                             VARIANT* result, UINT& wrongArgument) {
+  const LateArguments arguments(m_reference, member, parameters, wrongArgument);
   if ((flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) {
-    if (arguments.newValue == nullptr) return DISP_E_PARAMNOTOPTIONAL;
-    automation::Assign(m_reference, member, arguments.positional,
-                       FromVariant(*arguments.newValue, member.type), arguments.named);
+    if (!arguments.newValue) return DISP_E_PARAMNOTOPTIONAL;
+    automation::Assign(m_reference, member, arguments.positional, *arguments.newValue, arguments.named);
     return S_OK;
   }
   if ((flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) == 0) return DISP_E_MEMBERNOTFOUND;
@@ -219,6 +245,7 @@ ComPointer<IDispatch> Wrap(const ObjectReference& reference) {
 ObjectReference ReferenceOf(IDispatch* object) {
   if (object == nullptr) return {};
   Object* own = nullptr;
+  const HostFloatState state;
   if (FAILED(object->QueryInterface(ObjectIdentity, reinterpret_cast<void**>(&own))))
     throw Error(ErrorNumber::TypeMismatch, "Type mismatch: an object of this library is wanted");
   return own->Reference();

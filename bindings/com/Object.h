@@ -32,6 +32,13 @@ class Object {
 
   ULONG Count(int change);
 
+  /// The object that this one is a part of: it has the count and gives the interfaces. Null for an object by
+  /// itself.
+  IUnknown* Whole() const { return m_whole; }
+  /// An interface that an object has besides its own: `IclsLibrary` of the root object. Not counted; null for
+  /// any other.
+  IUnknown* FurtherInterface(REFIID identity);
+
   /// Bodies of a typed interface's methods: a property's get or a method, and a property's let or set, by
   /// number. Arguments and result are given by their addresses.
   HRESULT Get(int number, std::initializer_list<const void*> arguments, void* result);
@@ -40,7 +47,7 @@ class Object {
   /// Bodies of `IDispatch`.
   HRESULT TypeInfoOfInterface(UINT index, ITypeInfo** information);
   HRESULT NumbersOfNames(LPOLESTR* names, UINT count, DISPID* numbers);
-  HRESULT InvokeByNumber(DISPID number, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+  HRESULT InvokeByNumber(DISPID number, REFIID identity, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                          EXCEPINFO* exception, UINT* wrongArgument);
 
   /// Bodies of `IProvideClassInfo2`.
@@ -53,11 +60,17 @@ class Object {
 
  private:
   HRESULT CallByNumber(const automation::MemberDescription& member, WORD flags, const DISPPARAMS& parameters,
-                       VARIANT* result);
+                       VARIANT* result, UINT& wrongArgument);
+
+  struct Deleting {
+    void operator()(Object* object) const { delete object; }
+  };
 
   automation::ObjectReference m_reference;
   std::atomic<ULONG> m_count{1};
   std::unique_ptr<EventSource> m_events;
+  IUnknown* m_whole = nullptr;
+  std::unique_ptr<Object, Deleting> m_library;
 };
 
 /// The COM object of an object, the same one for as long as it lives; nothing for a null reference.

@@ -39,18 +39,21 @@ std::string NameOfClass(IDispatch* object, const std::string& className) {
 }  // namespace
 
 OutsideObject::OutsideObject(const std::string& className) {
+  const HostFloatState state;
   CLSID identity{};
   HRESULT result = FindClass(className, identity);
   if (SUCCEEDED(result))
     result = ::CoCreateInstance(identity, nullptr, AnyServer, IID_IDispatch,
                                 reinterpret_cast<void**>(m_object.Receive()));
   if (FAILED(result))
-    throw Error(ErrorNumber::CannotCreateObject, "The component class " + className + " can't be created");
+    throw Error(com::NumberOf(result), "The component class " + className + " can't be created");
   m_typeName = NameOfClass(m_object.Get(), className);
 }
 
 OutsideObject::~OutsideObject() {
+  const HostFloatState state;
   if (!ModuleStands()) m_object.Detach();
+  m_object = ComPointer<IDispatch>();
 }
 
 VARIANT OutsideObject::Argument(bool value) {
@@ -108,6 +111,7 @@ DISPID OutsideObject::NumberOfMember(const wchar_t* member) const {
   if (known != m_numbers.end()) return known->second;
   DISPID number = DISPID_UNKNOWN;
   auto* name = const_cast<wchar_t*>(member);
+  const HostFloatState state;
   const HRESULT result = m_object->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_NEUTRAL, &number);
   if (FAILED(result)) throw Error(com::NumberOf(result), m_typeName + " has no member " + FromWide(member));
   return m_numbers[member] = number;
@@ -128,13 +132,14 @@ automation::Value OutsideObject::Run(const wchar_t* member, WORD flags, const au
                         isLet ? 1u : 0u};
   Variant result;
   EXCEPINFO exception{};
-  const HRESULT outcome = m_object->Invoke(
-      NumberOfMember(member), IID_NULL, LOCALE_NEUTRAL, flags, &parameters,
-      resultType.kind == automation::Kind::None ? nullptr : result.Get(), &exception, nullptr);
-  if (outcome == DISP_E_EXCEPTION) {
-    const automation::ErrorReport report = TakeException(exception);
-    throw Error(report.number, report.text);
-  }
+  const DISPID number = NumberOfMember(member);
+  const HRESULT outcome = [&] {
+    const HostFloatState state;
+    return m_object->Invoke(number, IID_NULL, LOCALE_NEUTRAL, flags, &parameters,
+                            resultType.kind == automation::Kind::None ? nullptr : result.Get(), &exception,
+                            nullptr);
+  }();
+  if (outcome == DISP_E_EXCEPTION) throw HandlerError(TakeException(exception));
   if (FAILED(outcome))
     throw Error(com::NumberOf(outcome), m_typeName + "." + FromWide(member) + ": the call fails");
   return FromVariant(*result.Get(), resultType);
@@ -144,6 +149,7 @@ bool IsRegistered(const std::string& className) {
   CLSID identity{};
   if (FAILED(FindClass(className, identity))) return false;
   ComPointer<IClassFactory> factory;
+  const HostFloatState state;
   return ::CoGetClassObject(identity, AnyServer, nullptr, IID_IClassFactory,
                             reinterpret_cast<void**>(factory.Receive())) != REGDB_E_CLASSNOTREG;
 }

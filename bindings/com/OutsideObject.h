@@ -15,7 +15,8 @@ namespace orve::com {
 
 class OutsideObject {
  public:
-  /// Creates an object of a registered class. Errors: 429 if that fails.
+  /// Creates an object of a registered class. Errors: 429 if there is no such class, else what the system
+  /// gives.
   explicit OutsideObject(const std::string& className);
   ~OutsideObject();
   OutsideObject(const OutsideObject&) = delete;

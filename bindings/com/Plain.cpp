@@ -20,6 +20,12 @@ using automation::Value;
 
 namespace {
 
+// A record's description released early takes the layouts of living records with it.
+std::map<const RecordDescription*, IRecordInfo*>& KeptRecords() {
+  static std::map<const RecordDescription*, IRecordInfo*> kept;
+  return kept;
+}
+
 template <class Plain>
 Plain Load(const void* address) {
   Plain plain;
@@ -201,9 +207,7 @@ void ClearPlain(const Type& type, void* address) {
 }
 
 IRecordInfo* RecordInformation(const RecordDescription& record) {
-  // A record's description released early takes the layouts of living records with it.
-  static std::map<const RecordDescription*, IRecordInfo*> kept;
-  IRecordInfo*& information = kept[&record];
+  IRecordInfo*& information = KeptRecords()[&record];
   if (information != nullptr) return information;
   ComPointer<IRecordInfo> made;
   RaiseIfFailed(::GetRecordInfoFromTypeInfo(TypeInformation(ToGuid(record.guid)), made.Receive()));
@@ -212,6 +216,12 @@ IRecordInfo* RecordInformation(const RecordDescription& record) {
   if (size != ExtentOf(record).size)
     throw std::logic_error(std::string(record.name) + ": the type library has another layout");
   return information = made.Detach();
+}
+
+void ForgetRecordInformation() {
+  for (const auto& [record, information] : KeptRecords())
+    if (information != nullptr) information->Release();
+  KeptRecords().clear();
 }
 
 const RecordDescription* RecordOf(IRecordInfo* information) {

@@ -17,8 +17,10 @@ void WritePlain(const automation::Type& type, const automation::Value& value, vo
 /// What a failed call leaves in place of a result.
 void ClearPlain(const automation::Type& type, void* address);
 
-/// The record's description for the system; kept for the life of the library.
+/// The record's description for the system; kept until `ForgetRecordInformation`.
 IRecordInfo* RecordInformation(const automation::RecordDescription& record);
+/// Lets go of the descriptions, before the library goes; a host's records hold their own.
+void ForgetRecordInformation();
 /// The described record of that identity; null if there is none.
 const automation::RecordDescription* RecordOf(IRecordInfo* information);
 

@@ -3,10 +3,11 @@
 
 namespace orve::com {
 
-/// Writes the classes that a host can create, and the type library. Errors: as `RaiseIfFailed` gives them;
-/// what was written is then taken out again.
+/// Writes the classes that a host can create, the interfaces and the type library. Errors: as `RaiseIfFailed`
+/// gives them; what was there before then stands again.
 void RegisterLibrary();
-/// Takes them out. What isn't there is no error.
+/// Takes them out; what the library of the other bitness needs too stays until that one is gone. What isn't
+/// there is no error.
 void UnregisterLibrary();
 
 }  // namespace orve::com

@@ -7,4 +7,5 @@
 #include <ocidl.h>
 #include <olectl.h>
 #include <commdlg.h>
+#include <cderr.h>
 // clang-format on

@@ -6,6 +6,7 @@
 #include "Object.h"
 #include "Plain.h"
 #include "Text.h"
+#include "common/DateText.h"
 #include "common/Error.h"
 
 namespace orve::com {
@@ -77,6 +78,39 @@ Value RecordFromArray(const VARIANT& variant, const Type& type) {
   return value;
 }
 
+/// A property of an object of the host, by name. Errors: 13 if there is none.
+void ReadProperty(IDispatch* object, const std::wstring& name, VARIANT* result) {
+  const HostFloatState state;
+  auto* asked = const_cast<wchar_t*>(name.c_str());
+  DISPID number = DISPID_UNKNOWN;
+  DISPPARAMS none{};
+  if (FAILED(object->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_NEUTRAL, &number)) ||
+      FAILED(object->Invoke(number, IID_NULL, LOCALE_NEUTRAL, DISPATCH_PROPERTYGET, &none, result, nullptr,
+                            nullptr)))
+    RaiseMismatch();
+}
+
+/// The fields of a record from an array of JScript: an object with a length and the elements by their
+/// positions.
+Value RecordFromScript(IUnknown* array, const Type& type) {
+  const RecordDescription& record = *automation::FindRecord(type.name);
+  ComPointer<IDispatch> object;
+  if (array == nullptr ||
+      FAILED(array->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(object.Receive()))))
+    RaiseMismatch();
+  Variant length;
+  ReadProperty(object.Get(), L"length", length.Get());
+  if (V_VT(length.Get()) != VT_I4 || static_cast<std::size_t>(V_I4(length.Get())) != record.fields.size())
+    RaiseMismatch();
+  RecordValue value{&record, {}};
+  for (const automation::FieldDescription& field : record.fields) {
+    Variant element;
+    ReadProperty(object.Get(), std::to_wstring(value.fields.size()), element.Get());
+    value.fields.push_back(FromVariant(*element.Get(), field.type));
+  }
+  return value;
+}
+
 Value RecordFromVariant(const VARIANT& variant) {
   const RecordDescription* record = RecordOf(V_RECORDINFO(&variant));
   if (record == nullptr || V_RECORD(&variant) == nullptr) RaiseMismatch();
@@ -85,6 +119,7 @@ Value RecordFromVariant(const VARIANT& variant) {
 
 Value ObjectFromVariant(IUnknown* object) {
   ComPointer<IDispatch> dispatch;
+  const HostFloatState state;
   if (object != nullptr &&
       FAILED(object->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(dispatch.Receive()))))
     RaiseMismatch();
@@ -125,6 +160,7 @@ Value FromDirectVariant(const VARIANT& variant, const Type& type) {
     case VT_R8:
       return V_R8(&variant);
     case VT_DATE:
+      if (type.kind == Kind::Text) return DateText(V_DATE(&variant));
       return V_DATE(&variant);
     case VT_CY:
       return CurrencyNumber(variant);
@@ -134,6 +170,7 @@ Value FromDirectVariant(const VARIANT& variant, const Type& type) {
       return FromText(V_BSTR(&variant));
     case VT_DISPATCH:
     case VT_UNKNOWN:
+      if (type.kind == Kind::Record) return RecordFromScript(V_UNKNOWN(&variant), type);
       return ObjectFromVariant(V_UNKNOWN(&variant));
     case VT_RECORD:
       return RecordFromVariant(variant);

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string>
 
+#include "ComLibrary.h"
 #include "Description.h"
 
 namespace orve::automation {
@@ -99,7 +100,8 @@ TEST(Members, EveryPublicMemberOfTheHeadersIsDescribed) {
 
 std::string NumbersText() {
   std::ostringstream text;
-  for (const ClassDescription* description : Classes()) {
+  text << "type library " << TypeLibraryGuid << '\n';
+  for (const ClassDescription* description : ComClasses()) {
     for (const MemberDescription& member : description->members)
       text << description->name << ' ' << member.number << ' ' << member.name << '\n';
     for (const EventDescription& event : description->events)

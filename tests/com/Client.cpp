@@ -1,6 +1,7 @@
 // A C++ host of the registered library, by late and by early binding.
 #include <cmath>
 #include <cstring>
+#include <xmmintrin.h>
 
 #include "BareCase.h"
 #include "Checks.h"
@@ -64,13 +65,20 @@ void LateBinding(const Late& root) {
                  "an unknown name");
   g_checks.Equal(zones.Get(L"ZoneIndexTo", {}, {{L"Sector", 1}}).result,
                  static_cast<HRESULT>(DISP_E_UNKNOWNNAME), "an unknown argument's name");
+  Argument date;
+  V_VT(date.Get()) = VT_DATE;
+  V_DATE(date.Get()) = 46350.43125;
+  root.Put(L"Description", {date});
+  g_checks.Equal(root.Get(L"Description").value.Text(), "2026-11-24 10:21:00", "a date given to a text");
   g_checks.Equal(root.Get(L"Created").value.Type(), static_cast<VARTYPE>(VT_DATE), "a date's type");
 
   const Late dimensions = root.Object(L"BuildingDimensions");
   g_checks.Equal(root.PutRef(L"BuildingDimensions", dimensions.Dispatch()).result, S_OK, "an object is set");
   g_checks.Equal(root.Put(L"BuildingDimensions", {zones.Dispatch()}).number, 13L,
                  "an object of another class");
-  g_checks.Equal(root.PutRef(L"BuildingDimensions", nullptr).number, 91L, "no object");
+  g_checks.Equal(root.PutRef(L"BuildingDimensions", nullptr).result, S_OK, "no object is set");
+  g_checks.True(root.Object(L"BuildingDimensions").Dispatch() == nullptr, "and none is read");
+  root.PutRef(L"BuildingDimensions", dimensions.Dispatch());
 }
 
 /// The -1 that stands for an argument left out; no member of an enumeration.
@@ -106,10 +114,10 @@ void EarlyBinding(IclsCurrentCase& root) {
 
   ZoneDimensionsXY size{};
   const auto present = LeftOut<ResultsScreens>();
-  g_checks.Equal(zones->get_Hybrid_ZoneDimensionsXY(BuildingAreas_baRoof, Faces_Face_1, 0, present, &size),
-                 S_OK, "a record");
+  g_checks.Equal(zones->get_Hybrid_ZoneDimensionsXY(baRoof, Faces_Face_1, 0, present, &size), S_OK,
+                 "a record");
   float length = 0;
-  zones->get_Hybrid_ZoneDimensionX(BuildingAreas_baRoof, Faces_Face_1, 0, present, &length);
+  zones->get_Hybrid_ZoneDimensionX(baRoof, Faces_Face_1, 0, present, &length);
   g_checks.True(size.DimensionX == length && length > 0, "a record's fields");
 
   float steps[] = {5, 5, 5, 1, 2, 3, 2, 4};
@@ -175,7 +183,7 @@ void Records(IclsCurrentCase& root) {
   g_checks.Equal(root.putref_CantileverWindloads(own.Get()), S_OK, "the object is set");
 
   VARIANT_BOOL found = VARIANT_FALSE;
-  loads->CantileverValues(BuildingAreas_baRoof, Faces_Face_1, VARIANT_FALSE, &found);
+  loads->CantileverValues(baRoof, Faces_Face_1, VARIANT_FALSE, &found);
   g_checks.True(found == VARIANT_TRUE, "cantilever zones are found");
   SAFEARRAY* zones = nullptr;
   loads->GetCantileverZones(&zones);
@@ -197,6 +205,21 @@ void Records(IclsCurrentCase& root) {
                  "a record is let by late binding");
 }
 
+/// An enumerator keeps the library loaded by itself.
+void Enumerators(IConnectionPointContainer& container, IConnectionPoint& point) {
+  ComPointer<IEnumConnectionPoints> points;
+  ComPointer<IEnumConnections> sinks;
+  ULONG count = 0;
+  IConnectionPoint* first = nullptr;
+  container.EnumConnectionPoints(points.Receive());
+  point.EnumConnections(sinks.Receive());
+  g_checks.True(points->Next(1, &first, &count) == S_OK && first == &point, "the connection points");
+  first->Release();
+  CONNECTDATA data{};
+  g_checks.Equal(sinks->Next(1, &data, &count), S_OK, "the sinks");
+  data.pUnk->Release();
+}
+
 void Events(const Late& root, Sink& sink) {
   ComPointer<IConnectionPointContainer> container = As<IConnectionPointContainer>(root.Dispatch());
   ComPointer<IConnectionPoint> point;
@@ -211,16 +234,56 @@ void Events(const Late& root, Sink& sink) {
   root.Put(L"IsDirty", {false});
   g_checks.Equal(sink.Take(), "DirtyUpdated(True) LocationUpdated(C:\\x.wlc) DirtyUpdated(False)",
                  "events in their order");
-  sink.Fail(true);
+  sink.FailWith(DISP_E_EXCEPTION);
   const Outcome failed = root.Put(L"IsDirty", {true});
   g_checks.Equal(failed.number, 1234L, "an error of the host's handler comes to the caller");
-  g_checks.Equal(failed.text, "The handler fails", "its text");
-  sink.Fail(false);
+  g_checks.Equal(failed.text + ", " + failed.source + ", " + failed.help,
+                 "The handler fails, The host, host.chm:7", "its text, source and help");
+  for (const HRESULT result : {E_FAIL, E_ACCESSDENIED}) {
+    sink.FailWith(result);
+    g_checks.Equal(root.Put(L"IsDirty", {true}).scode, result, "and any other result");
+  }
+  for (const HRESULT result : {DISP_E_MEMBERNOTFOUND, E_NOTIMPL}) {
+    sink.FailWith(result);
+    g_checks.Equal(root.Put(L"IsDirty", {true}).result, S_OK, "a sink without use for an event");
+  }
+  sink.FailWith(S_OK);
   sink.Take();
+  Enumerators(*container.Get(), *point.Get());
   g_checks.Equal(point->Unadvise(cookie), S_OK, "the sink is disconnected");
   g_checks.Equal(sink.Count(), 1ul, "nothing holds the sink");
   root.Put(L"IsDirty", {false});
   g_checks.Equal(sink.Take(), "", "no event behind it");
+  point->Advise(&sink, &cookie);
+  sink.FailWith(RPC_E_DISCONNECTED);
+  root.Put(L"IsDirty", {false});
+  g_checks.Equal(sink.Count(), 1ul, "a sink that is gone is let go");
+  g_checks.Equal(point->Unadvise(cookie), CONNECT_E_NOCONNECTION, "and isn't connected any more");
+  sink.FailWith(S_OK);
+}
+
+/// A host that lets floating-point exceptions trap and rounds upwards, with the SSE unit's word.
+void StrictHost(const Late& root, Sink& sink) {
+  constexpr unsigned strict = (0x1F80 & ~0x0680u) | 0x4000;
+  constexpr unsigned inexact = 0x20;  // The client's own.
+  const ComPointer<IConnectionPointContainer> container = As<IConnectionPointContainer>(root.Dispatch());
+  ComPointer<IConnectionPoint> point;
+  container->FindConnectionPoint(__uuidof(IclsCurrentCaseEvents), point.Receive());
+  DWORD cookie = 0;
+  point->Advise(&sink, &cookie);
+  const unsigned before = _mm_getcsr();
+  _mm_setcsr(strict);
+  const HRESULT empty = root.Object(L"DynamicPressure").Get(L"FetchesToSea", {3}).result;
+  SetBareCase(root);
+  const Outcome load = root.Object(L"OverallAppliedLoads").Get(L"Hybrid_OverallAppliedLoads", {0, 0, 0});
+  const unsigned after = _mm_getcsr();
+  _mm_setcsr(before);
+  g_checks.Equal(empty, S_OK, "a reading without a height");
+  g_checks.Equal(load.result, S_OK, "a load " + load.text);
+  g_checks.Equal(after & ~inexact, strict, "the host's floating-point state after the calls");
+  g_checks.Equal(sink.FloatState() & ~inexact, strict, "and in its handler");
+  point->Unadvise(cookie);
+  sink.Take();
 }
 
 void Files(const Late& root, const std::string& folder) {
@@ -336,6 +399,19 @@ void Dialogs(const Late& root, const std::string& folder) {
   g_checks.Equal(Narrow(after), Narrow(present), "the current folder stays");
 }
 
+/// The sinks of a root object that is gone by then.
+ComPointer<IEnumConnections> LastEnumerator() {
+  ComPointer<IDispatch> root;
+  ComPointer<IConnectionPoint> point;
+  ComPointer<IEnumConnections> sinks;
+  ::CoCreateInstance(__uuidof(clsCurrentCase), nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                     reinterpret_cast<void**>(root.Receive()));
+  As<IConnectionPointContainer>(root.Get())
+      ->FindConnectionPoint(__uuidof(IclsCurrentCaseEvents), point.Receive());
+  point->EnumConnections(sinks.Receive());
+  return sinks;
+}
+
 ComPointer<IDispatch> CreateRoot() {
   ComPointer<IDispatch> root;
   CLSID identity{};
@@ -401,6 +477,7 @@ int main(int count, char** arguments) {
     const Late late(root.Get());
     root = ComPointer<IDispatch>();
     TypeInformation(late.Dispatch());
+    StrictHost(late, sink);
     Events(late, sink);
     SetBareCase(late);
     CheckBareCase(late, g_checks);
@@ -416,6 +493,10 @@ int main(int count, char** arguments) {
   using CanUnload = HRESULT(STDAPICALLTYPE*)();
   const auto canUnload =
       reinterpret_cast<CanUnload>(reinterpret_cast<void*>(::GetProcAddress(library, "DllCanUnloadNow")));
+  {
+    const ComPointer<IEnumConnections> sinks = LastEnumerator();
+    g_checks.True(canUnload != nullptr && canUnload() == S_FALSE, "an enumerator keeps the library loaded");
+  }
   g_checks.True(canUnload != nullptr && canUnload() == S_OK,
                 "with its objects gone the library can be unloaded");
   ServeAnotherApartment();

@@ -114,6 +114,8 @@ Outcome Late::Call(const wchar_t* member, WORD flags, const std::vector<Argument
     outcome.number = exception.scode & 0xFFFF;
     outcome.text = TakeText(exception.bstrDescription);
     outcome.source = TakeText(exception.bstrSource);
+    outcome.help = TakeText(exception.bstrHelpFile) + ":" + std::to_string(exception.dwHelpContext);
+    outcome.scode = exception.scode;
   }
   return outcome;
 }

@@ -50,9 +50,11 @@ class Argument {
 /// What a call came to.
 struct Outcome {
   HRESULT result = S_OK;
+  HRESULT scode = S_OK;
   long number = 0;  ///< The error's number as hosts show it.
   std::string text;
   std::string source;
+  std::string help;  ///< File and context.
   Argument value;
 };
 

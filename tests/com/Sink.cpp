@@ -1,5 +1,7 @@
 #include "Sink.h"
 
+#include <xmmintrin.h>
+
 namespace orve::test {
 
 HRESULT Sink::QueryInterface(REFIID identity, void** result) {
@@ -15,12 +17,16 @@ HRESULT Sink::Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* parameters, 
                      EXCEPINFO* exception, UINT*) {
   static constexpr const char* names[] = {"DirtyUpdated", "LocationUpdated", "WindCaseListUpdated",
                                           "WindCaseOpened", "WindCaseSaved"};
-  if (m_fail) {
+  m_floatState = _mm_getcsr();
+  if (m_result == DISP_E_EXCEPTION) {
     *exception = {};
     exception->scode = static_cast<SCODE>(0x800A0000 | 1234);
     exception->bstrDescription = NewText("The handler fails");
-    return DISP_E_EXCEPTION;
+    exception->bstrSource = NewText("The host");
+    exception->bstrHelpFile = NewText("host.chm");
+    exception->dwHelpContext = 7;
   }
+  if (FAILED(m_result)) return m_result;
   if (!m_events.empty()) m_events += ' ';
   m_events += std::string(names[number - 1]) + '(';
   if (parameters->cArgs > 0) {

@@ -26,12 +26,15 @@ class Sink final : public IDispatch {
   ULONG Count() const { return m_count; }
   /// The events since the last call.
   std::string Take() { return std::exchange(m_events, {}); }
-  /// Whether the handler raises an error.
-  void Fail(bool fail) { m_fail = fail; }
+  /// What the handler ends with; DISP_E_EXCEPTION comes with number, text, source and help.
+  void FailWith(HRESULT result) { m_result = result; }
+  /// The floating-point state in which the last handler ran.
+  unsigned FloatState() const { return m_floatState; }
 
  private:
   ULONG m_count = 1;
-  bool m_fail = false;
+  HRESULT m_result = S_OK;
+  unsigned m_floatState = 0;
   std::string m_events;
 };
 

@@ -94,6 +94,9 @@ Check Err.Number, 6, "a number that doesn't fit"
 Err.Clear
 On Error Goto 0
 
+windCase.Description = DateSerial(2026, 11, 24)
+Check windCase.Description, "2026-11-24", "a date given to a text"
+Check CreateObject("ORVE3_BS6399_2.clsLibrary").PublishedText("Faces", 1), "Face 2", "a published text"
 windCase.Description = "A script's case"
 windCase.Location = WScript.Arguments(0) & "\script.wlc"
 windCase.Save

@@ -13,6 +13,7 @@ Object* New_clsInternalCoefficients(const automation::ObjectReference& reference
 Object* New_clsOverallAppliedLoads(const automation::ObjectReference& reference);
 Object* New_clsCantileverWindLoads(const automation::ObjectReference& reference);
 Object* New_clsWindCaseList(const automation::ObjectReference& reference);
+Object* New_clsLibrary(const automation::ObjectReference& reference);
 
 /// Makes the COM object of a class; its count is 1.
 struct ClassMaker {
@@ -28,6 +29,7 @@ inline constexpr ClassMaker ClassMakers[] = {
     {"clsOverallAppliedLoads", &New_clsOverallAppliedLoads},
     {"clsCantileverWindLoads", &New_clsCantileverWindLoads},
     {"clsWindCaseList", &New_clsWindCaseList},
+    {"clsLibrary", &New_clsLibrary},
 };
 
 }  // namespace orve::com

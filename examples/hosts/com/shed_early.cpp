@@ -47,12 +47,12 @@ void Describe(IclsCurrentCase* windCase) {
 
 void PrintFace(IclsOverallAppliedLoads* loads, Faces face) {
   SHORT last = -1;
-  Check(loads->get_ZoneIndexTo(BuildingAreas_baRoof, face, &last));
+  Check(loads->get_ZoneIndexTo(baRoof, face, &last));
   for (SHORT zone = 0; zone <= last; ++zone) {
     BSTR name = nullptr;
     BSTR load = nullptr;
-    Check(loads->get_Hybrid_ZoneDescription(BuildingAreas_baRoof, face, zone, &name));
-    Check(loads->get_Hybrid_OverallAppliedLoads(BuildingAreas_baRoof, face, zone, &load));
+    Check(loads->get_Hybrid_ZoneDescription(baRoof, face, zone, &name));
+    Check(loads->get_Hybrid_OverallAppliedLoads(baRoof, face, zone, &load));
     *wcsstr(load, L" kN") = L'\0';
     std::printf("Face %d, %ls: %ls\n", face + 1, name, load);
     SysFreeString(load);
