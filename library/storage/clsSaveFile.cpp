@@ -97,7 +97,7 @@ bool clsSaveFile::NewFile() {
   run([&] { Dirty(false); });
   run([&] { FileName(std::string()); });
   run([&] {
-    m_DataBuffer.clear();
+    m_document.Text(std::string());
     m_knownName.clear();
     m_knownState = {};
   });

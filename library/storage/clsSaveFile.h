@@ -7,6 +7,7 @@
 
 #include "common/Event.h"
 #include "common/FileState.h"
+#include "storage/DocumentText.h"
 
 namespace orve {
 
@@ -104,7 +105,7 @@ class clsSaveFile {
   Event<const std::string& /*fileName*/, bool& /*cancel*/> SaveFileEvent{2 * Event<>::Deepest};
 
   /// Text of the whole document file, UTF-8.
-  const std::string& DataBuffer() const { return m_DataBuffer; }
+  const std::string& DataBuffer() const { return m_document.Text(); }
 
  private:
   std::optional<std::string> AskUser(bool save);
@@ -123,7 +124,7 @@ class clsSaveFile {
   std::uint64_t m_documentNumber = 0;
   bool m_startingDocument = false;
   std::string m_FileName;
-  std::string m_DataBuffer;
+  DocumentText m_document;
   std::string m_knownName;  ///< The file that was last read or written, and its state then.
   FileState m_knownState;
 };
