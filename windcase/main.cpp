@@ -82,5 +82,8 @@ int main(int argc, char** argv) {
   const windcase::PrintableStreams printable;
   windcase::Options options;
   if (const auto code = windcase::ParseCommandLine(argc, argv, options)) return *code;
-  return static_cast<int>(windcase::RunGuarded(options));
+  windcase::ExitCode ending = windcase::RunGuarded(options);
+  // A result that couldn't be printed whole, as into a file on a full disk, isn't one.
+  if (!std::cout.flush()) ending = windcase::Tell(windcase::ExitCode::File, "Can't write the results");
+  return static_cast<int>(ending);
 }
