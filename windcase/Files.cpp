@@ -1,6 +1,6 @@
 #include "Files.h"
 
-#include <filesystem>
+#include <fstream>
 #include <orve3_bs6399_2.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -11,8 +11,6 @@
 #include "common/FileLayer.h"
 
 namespace windcase {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -84,6 +82,12 @@ void RefuseUnlessFree(const Output& output, const std::string& target, const str
   if (!output.force) throw Failure(ExitCode::File, target + " is there already; --force writes over it");
 }
 
+// A pipe or a device has no path that could be resolved.
+void WriteToDevice(const std::string& path, std::string_view text) {
+  std::ofstream device(path, std::ios::binary);
+  if (!(device << text).flush()) throw Failure(ExitCode::File, "Can't write " + path);
+}
+
 }  // namespace
 
 std::string ResolvedName(const std::string& name) {
@@ -105,11 +109,13 @@ std::string ReadPlainFile(const std::string& path) {
 }
 
 void WriteOutput(const Output& output, std::string_view text) {
+  const struct stat given = StatusOf(output.path);
+  if (Exists(given) && !S_ISREG(given.st_mode) && output.force) return WriteToDevice(output.path, text);
   const std::string target = ResolvedName(output.path);
   const struct stat status = StatusOf(target);
   if (Exists(status)) {
     RefuseUnlessFree(output, target, status);
-    if (S_ISREG(status.st_mode)) NarrowRights(target, status, output.casePath);
+    NarrowRights(target, status, output.casePath);
     orve::WriteWholeFile(target, text, orve::Durability::Flushed);
     return;
   }
