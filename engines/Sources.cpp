@@ -28,13 +28,24 @@ void Append(std::string& text, std::string_view separator, const std::string& pa
 
 std::string_view SourceStatusText(SourceStatus status) {
   static constexpr std::string_view kTexts[] = {"confirmed", "consistent", "recalled", "engine choice",
-                                                "standing in"};
+                                                "substitute table"};
   const auto index = static_cast<std::size_t>(status);
   return index < std::size(kTexts) ? kTexts[index] : std::string_view();
 }
 
 SourceStatus Weaker(SourceStatus first, SourceStatus second) {
   return std::max(first, second);
+}
+
+std::string WeakerFigure::Text() const {
+  return ShortestText(served) + " for the recalled " + ShortestText(recalled) + " of BS 6399-2 " + table +
+         " (" + place + ")";
+}
+
+std::string SourceRecord::StatusText() const {
+  std::string text(SourceStatusText(status));
+  Append(text, " ", basis);
+  return text;
 }
 
 std::string SourceRecord::Text() const {
@@ -44,10 +55,17 @@ std::string SourceRecord::Text() const {
   Append(text, ", ", item);
   for (const SourceAxis& axis : axes) Append(text, ", ", AxisText(axis));
   std::string values;
-  for (const double corner : corners) Append(values, " ", ShortestText(corner));
+  for (std::size_t i = 0; i < corners.size(); ++i) {
+    const bool blank = std::find(blankCorners.begin(), blankCorners.end(), i) != blankCorners.end();
+    Append(values, " ", blank ? "blank" : ShortestText(corners[i]));
+  }
   Append(text, ": ", values);
-  text += " [" + std::string(SourceStatusText(status)) + "]";
-  Append(text, " ", note);
+  text += " [" + StatusText() + "]";
+  std::string remarks = note;
+  if (!replaces.empty()) Append(remarks, "; ", "substitute for " + replaces);
+  if (!blankCorners.empty()) Append(remarks, "; ", "a blank counts as 0");
+  for (const WeakerFigure& figure : weaker) Append(remarks, "; ", "weaker: " + figure.Text());
+  Append(text, " ", remarks);
   return text;
 }
 

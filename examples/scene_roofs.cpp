@@ -92,7 +92,7 @@ void PrintRoofScene(clsCurrentCase& windCase, std::ostream& out) {
                WeakestStatus(roof.sources)});
   }
   table.Print(out);
-  out << "\n  A coefficient that is standing in isn't a figure of BS 6399-2: see docs/validation.md.\n";
+  out << "\n  A coefficient of a substitute table isn't a figure of BS 6399-2: see docs/validation.md.\n";
 }
 
 }  // namespace examples

@@ -55,7 +55,7 @@ void PrintSources(std::ostream& out, const clsCurrentCase& windCase) {
   table.Print(out);
   out << "\n  Only a confirmed figure has been read in print; the others are to be checked against the "
          "print\n"
-         "  before a load is relied on. A figure that is standing in belongs to another standard.\n"
+         "  before a load is relied on. A substitute table belongs to another standard.\n"
          "  Every load is multiplied by Ca.\n";
 
   PrintHeading(out, "One load traced: roof, face 1, zone A");

@@ -77,8 +77,11 @@ void PrintGoverningLoads(std::ostream& out, const clsCurrentCase& windCase) {
       const auto face = Faces(i);
       const std::int16_t last = loads->ZoneIndexTo(area, face);
       for (std::int16_t zone = loads->ZoneIndexFrom(area, face); zone <= last; ++zone) {
-        const std::string where =
-            "face " + std::to_string(i + 1) + ", " + loads->Hybrid_ZoneDescription(area, face, zone);
+        // A length below 0: the surface is too small for the zone.
+        const bool absent = loads->Hybrid_ZoneDimensions(area, face, zone).find('-') != std::string::npos;
+        const std::string where = "face " + std::to_string(i + 1) + ", " +
+                                  loads->Hybrid_ZoneDescription(area, face, zone) +
+                                  (absent ? " (absent)" : "");
         Keep(pressure, loads->Hybrid_OverallAppliedLoad_Pressure(area, face, zone), true, where);
         Keep(suction, loads->Hybrid_OverallAppliedLoad_Suction(area, face, zone), false, where);
       }

@@ -38,6 +38,7 @@ class WindFactors {
 
 /// A search for the worst wind: the candidates walked, and q and Ca of the winner.
 struct WorstWind {
+  WorstCase record;
   QuantityPtr search;
   QuantityPtr q;
   QuantityPtr Ca;
@@ -61,7 +62,12 @@ Quantity ExplainInternalCoefficient(Faces face, bool suction);
 /// The zone's lengths and their rule.
 Quantity ExplainZoneSize(const ZoneAddress& zone);
 
-/// Marks a figure that isn't confirmed, and one that stands in.
+/// Adds the warnings of the figure's source.
 void WarnOfSource(Quantity& figure);
+
+/// A wind area as texts name it, as "side walls".
+const char* WindAreaName(WindAreas area);
+/// A wind angle as texts show it, from 0 to below 360.
+std::string WindAngleText(float angle);
 
 }  // namespace orve::explain

@@ -17,12 +17,12 @@ namespace orve::explain {
 /// the zone list of the area and face. Errors: those of the reads, as 9 for a zone that isn't there.
 QuantityPtr ExplainZone(BuildingAreas area, Faces face, std::int16_t zone);
 
-/// The warnings of some trees, each once, in the order in which a reader comes to them; figures that agree
-/// with published calculations come last.
-std::vector<std::string> WarningsOf(std::span<const QuantityPtr> trees);
+/// The warnings of some trees, each once, those of loads first, then those of figures, the consistent ones
+/// last; else in the order in which a reader comes to them.
+std::vector<Warning> WarningsOf(std::span<const QuantityPtr> trees);
 
-/// Warnings of the open case as a whole: gable faces that don't fit a pitched roof's ridge.
-std::vector<std::string> CaseWarnings();
+/// Warnings of the open case as a whole.
+std::vector<Warning> CaseWarnings();
 
 /// "Roof", "Walls" or "Parapet".
 std::string AreaName(BuildingAreas area);

@@ -21,8 +21,8 @@ QuantityPtr Load(const char* symbol, const char* name, float value, const WorstW
   Add(load, wind.q);
   const QuantityPtr factor = Add(load, std::move(coefficient));
   SetFormula(load, "Ca \u00D7 q \u00D7 " + factor->symbol);
-  if (*wind.Ca->value == 0 && *factor->value != 0)
-    load.warnings.push_back("A coefficient is present but Ca is 0, so that the load is 0: give the diagonal");
+  if (*factor->value != 0)
+    if (const auto warning = WarnOfExternalWind(wind.record)) load.warnings.push_back(*warning);
   return std::make_shared<const Quantity>(std::move(load));
 }
 

@@ -23,11 +23,7 @@ QuantityPtr Load(const char* symbol, const char* name, float value, const Intern
   Add(load, wind.ofq.q);
   const QuantityPtr factor = Add(load, std::move(coefficient));
   SetFormula(load, "Ca \u00D7 q \u00D7 " + factor->symbol);
-  if (*wind.ofCa.Ca->value == 0 && *factor->value != 0)
-    load.warnings.push_back(
-        "An internal coefficient is present but its Ca is 0, so that the internal load is 0: give the "
-        "internal "
-        "volume, unless the building is open-sided");
+  if (*factor->value != 0) load.warnings = WarnOfInternalWind(wind.ofCa.record, wind.ofq.record);
   return std::make_shared<const Quantity>(std::move(load));
 }
 

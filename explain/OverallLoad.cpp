@@ -61,7 +61,7 @@ void Combine(Quantity& load, const Terms& terms, const char* extreme) {
   load.clause = "2.1.3.3";
   if (pairs.empty()) {
     load.note = MissingSide(terms);
-    if (!load.children.empty()) load.warnings.push_back(load.name + ": " + load.note);
+    if (!load.children.empty()) load.warnings.push_back(WarnOfMissingPair(load.name, load.note));
     return;
   }
   std::string formula = std::string(extreme) + "(0";

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Sources.h"
+#include "Warning.h"
 
 namespace orve::explain {
 
@@ -38,7 +39,7 @@ struct Quantity {
   std::string note;             ///< What governs, and why no formula stands here.
   std::string clause;           ///< Clause, table or figure of BS 6399-2.
   std::optional<SourceRecord> source;  ///< Where an engine's figure comes from.
-  std::vector<std::string> warnings;   ///< In words: what a reader has to know before relying on the value.
+  std::vector<Warning> warnings;       ///< What a reader has to know before relying on the value.
   std::vector<QuantityPtr> children;
 };
 

@@ -10,32 +10,8 @@ namespace {
 
 constexpr float kFullCircle = 360;
 
-std::string AngleText(float angle) {
-  if (angle < 0) angle += kFullCircle;
-  if (angle >= kFullCircle) angle -= kFullCircle;
-  return FormulaNumber(angle);
-}
-
 float AngleOf(std::int16_t sector) {
   return basBS6399_2::Common->IndexToAngle(sector);
-}
-
-const char* NameOf(WindAreas area) {
-  switch (area) {
-    case WindAreas::waRoof:
-      return "roof";
-    case WindAreas::waSidewall:
-      return "side walls";
-    case WindAreas::waGable:
-      return "gable walls";
-    case WindAreas::waInternal:
-      return "inside of the building";
-    case WindAreas::waSidewallParapet:
-      return "parapet of the side walls";
-    case WindAreas::waGableParapet:
-      return "parapet of the gable walls";
-  }
-  return "";
 }
 
 // Offsets of the normals from the building's orientation, by face.
@@ -63,7 +39,7 @@ Quantity Normal(Faces face, float normal) {
 class Candidate {
  public:
   Candidate(WindFactors& factors, WindAreas area, const WindCandidate& record, bool won)
-      : m_factors(factors), m_area(area), m_record(record), m_won(won), m_angle(AngleText(record.Angle)) {
+      : m_factors(factors), m_area(area), m_record(record), m_won(won), m_angle(WindAngleText(record.Angle)) {
     m_q = Value(true);
     m_Ca = Value(false);
   }
@@ -88,7 +64,7 @@ class Candidate {
 
   QuantityPtr OfSector(std::int16_t sector, bool pressure) {
     const auto ofSector = static_cast<WindSectors>(sector);
-    const std::string symbol = (pressure ? "q_" : "Ca_") + AngleText(AngleOf(sector));
+    const std::string symbol = (pressure ? "q_" : "Ca_") + WindAngleText(AngleOf(sector));
     if (m_won)
       return pressure ? m_factors.Pressure(m_area, ofSector, symbol)
                       : m_factors.SizeEffect(m_area, ofSector, symbol);
@@ -105,8 +81,8 @@ class Candidate {
       const QuantityPtr high = Add(value, OfSector(m_record.Sector2, pressure));
       SetFormula(value, Line(low->symbol, high->symbol));
     }
-    value.note = "between the sectors " + AngleText(AngleOf(m_record.Sector1)) + " and " +
-                 AngleText(AngleOf(m_record.Sector2));
+    value.note = "between the sectors " + WindAngleText(AngleOf(m_record.Sector1)) + " and " +
+                 WindAngleText(AngleOf(m_record.Sector2));
     return std::make_shared<const Quantity>(std::move(value));
   }
 
@@ -148,16 +124,42 @@ Quantity Winner(const char* symbol, const char* name, const char* unit, float va
 
 }  // namespace
 
+const char* WindAreaName(WindAreas area) {
+  switch (area) {
+    case WindAreas::waRoof:
+      return "roof";
+    case WindAreas::waSidewall:
+      return "side walls";
+    case WindAreas::waGable:
+      return "gable walls";
+    case WindAreas::waInternal:
+      return "inside of the building";
+    case WindAreas::waSidewallParapet:
+      return "parapet of the side walls";
+    case WindAreas::waGableParapet:
+      return "parapet of the gable walls";
+  }
+  return "";
+}
+
+std::string WindAngleText(float angle) {
+  if (angle < 0) angle += kFullCircle;
+  if (angle >= kFullCircle) angle -= kFullCircle;
+  return FormulaNumber(angle);
+}
+
 WorstWind ExplainWorstWind(WindFactors& factors, const WorstCase& record, Faces windFace,
                            const std::string& symbol) {
   const bool allSectors = RequireCurrentCase().BuildingDimensions()->OrientationUnknown();
   Quantity search = Text(symbol, "worst wind", "none");
-  search.note = allSectors ? "the greatest q \u00D7 Ca of all twelve sectors"
-                           : "the greatest q \u00D7 Ca within 45 degrees of the normal; an end of the window "
-                             "is measured against the whole sectors";
+  search.note = allSectors
+                    ? "the greatest q \u00D7 Ca of all twelve sectors"
+                    : "the greatest q \u00D7 Ca of the whole sectors within 45 degrees of the normal, or "
+                      "an end of the window that is greater than these; of two such ends the upper one";
+  if (const auto warning = WarnOfWorstWind(record, windFace)) search.warnings.push_back(*warning);
   Add(search, Text("face", "wind from", std::string(PublishedText(windFace))));
   Add(search, Normal(windFace, record.AngleNormalToFace));
-  Add(search, Text("area", "wind area", NameOf(record.WindArea)));
+  Add(search, Text("area", "wind area", WindAreaName(record.WindArea)));
 
   QuantityPtr q;
   QuantityPtr ca;
@@ -165,11 +167,12 @@ WorstWind ExplainWorstWind(WindFactors& factors, const WorstCase& record, Faces 
     const Candidate candidate(factors, record.WindArea, record.Candidates[i], i == record.Winner);
     Add(search, candidate.Product());
     if (i != record.Winner) continue;
-    search.text = AngleText(record.Candidates[i].Angle) + " degrees";
+    search.text = WindAngleText(record.Candidates[i].Angle) + " degrees";
     q = candidate.q();
     ca = candidate.Ca();
   }
   WorstWind wind;
+  wind.record = record;
   wind.search = std::make_shared<const Quantity>(std::move(search));
   wind.q = std::make_shared<const Quantity>(
       Winner("q", "dynamic pressure of the worst wind", "kN/m\u00B2", record.q(), q));

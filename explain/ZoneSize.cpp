@@ -168,6 +168,7 @@ Quantity ExplainZoneSize(const ZoneAddress& zone) {
     size.text = "the rest of its surface";
     return size;
   }
+  if (const auto warning = WarnOfZoneSize(area, face, index)) size.warnings.push_back(*warning);
   const ZoneDimensionsXY lengths = external->Hybrid_ZoneDimensionsXY(area, face, index, screen);
   const bool sameZones = external->ZoneIndexTo(area, face, screen) == external->ZoneIndexTo(area, face);
   Lengths rule;

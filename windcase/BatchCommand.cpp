@@ -70,7 +70,8 @@ class CaseWork {
     outcome.failed = loads.empty();
     if (loads.empty()) Put(outcome.fault, "it has no zones");
     for (const ZoneLoads& zone : loads) {
-      const std::string name = zone.area + ", " + zone.face + ", " + zone.zone;
+      const std::string name =
+          zone.area + ", " + zone.face + ", " + zone.zone + (zone.absent ? " (absent)" : "");
       if (!zone.fault.empty() && !outcome.failed) {
         outcome.failed = true;
         Put(outcome.fault, name + " has no load: " + zone.fault);

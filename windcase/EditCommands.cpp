@@ -47,8 +47,8 @@ std::vector<std::string> DesignFirst(std::vector<std::string> assignments) {
 }
 
 void WarnOfCase() {
-  for (const std::string& warning : orve::explain::CaseWarnings())
-    std::cout << "warning: " << warning << "\n";
+  for (const orve::explain::Warning& warning : orve::explain::CaseWarnings())
+    std::cout << "warning: " << warning.text << "\n";
 }
 
 }  // namespace

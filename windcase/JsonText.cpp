@@ -105,6 +105,16 @@ Json SourceOf(const orve::SourceRecord& source) {
                             {"high", axis.high},
                             {"fraction", axis.fraction}});
   if (!source.corners.empty()) json["corners"] = source.corners;
+  if (!source.basis.empty()) json["basis"] = source.basis;
+  // A blank counts as 0, but the table has no figure there.
+  for (const std::size_t blank : source.blankCorners) json["corners"][blank] = nullptr;
+  for (const orve::WeakerFigure& figure : source.weaker)
+    json["weaker"].push_back({{"place", figure.place},
+                              {"table", figure.table},
+                              {"served", figure.served},
+                              {"recalled", figure.recalled}});
+  if (!source.replaces.empty()) json["replaces"] = source.replaces;
+  if (!source.caution.empty()) json["caution"] = source.caution;
   if (!source.note.empty()) json["note"] = source.note;
   return json;
 }
@@ -128,7 +138,7 @@ class TreeWriter {
     add("clause", quantity.clause);
     if (quantity.layer == orve::explain::Layer::Input) json["input"] = true;
     if (quantity.source) json["source"] = SourceOf(*quantity.source);
-    if (!quantity.warnings.empty()) json["warnings"] = quantity.warnings;
+    for (const auto& warning : quantity.warnings) json["warnings"].push_back(warning.text);
     for (const auto& child : quantity.children) json["children"].push_back(Write(*child));
     return json;
   }

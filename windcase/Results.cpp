@@ -10,6 +10,7 @@ namespace windcase {
 
 using orve::BuildingAreas;
 using orve::Faces;
+using orve::explain::Warning;
 
 namespace {
 
@@ -48,6 +49,7 @@ ZoneLoads Read(const orve::clsOverallAppliedLoads& loads, BuildingAreas area, Fa
   result.face = PublishedText(face);
   result.zone = loads.Hybrid_ZoneDescription(area, face, zone);
   result.dimensions = loads.Hybrid_ZoneDimensions(area, face, zone);
+  result.absent = orve::explain::WarnOfZoneSize(area, face, zone).has_value();
   try {
     result.external = loads.Hybrid_ExternalAppliedLoads(area, face, zone);
     result.internal = loads.Hybrid_InternalAppliedLoads(area, face, zone);
@@ -96,9 +98,10 @@ std::vector<std::string> ReadWarnings(orve::clsCurrentCase& windCase, const Part
     } catch (const orve::Error&) {
     }
   });
-  std::vector<std::string> warnings = orve::explain::CaseWarnings();
-  for (std::string& warning : orve::explain::WarningsOf(trees)) warnings.push_back(std::move(warning));
-  return warnings;
+  std::vector<std::string> texts;
+  for (const Warning& warning : orve::explain::CaseWarnings()) texts.push_back(warning.text);
+  for (const Warning& warning : orve::explain::WarningsOf(trees)) texts.push_back(warning.text);
+  return texts;
 }
 
 }  // namespace windcase

@@ -24,7 +24,8 @@ struct ZoneLoads {
   std::string overall;
   float pressure = 0;  ///< Overall loads, kN/m².
   float suction = 0;
-  std::string fault;  ///< Why there is no load; empty if all is well.
+  bool absent = false;  ///< A length isn't above 0, though a load is given.
+  std::string fault;    ///< Why there is no load; empty if all is well.
 };
 
 /// The part of a building that is asked for; nothing means all.

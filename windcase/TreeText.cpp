@@ -28,7 +28,7 @@ class Printer {
     if (!bareSymbol) m_out << detail << "= " << quantity.numbers << "\n";
     if (!quantity.note.empty()) m_out << detail << quantity.note << "\n";
     if (quantity.source) m_out << detail << "from " << quantity.source->Text() << "\n";
-    for (const std::string& warning : quantity.warnings) m_out << detail << "warning: " << warning << "\n";
+    for (const auto& warning : quantity.warnings) m_out << detail << "warning: " << warning.text << "\n";
     if (m_depth != 0 && level + 1 >= m_depth) return;
     for (const auto& child : quantity.children)
       if (!IsShownInFormula(*child)) Print(*child, level + 1);

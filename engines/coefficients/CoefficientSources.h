@@ -13,7 +13,8 @@ class CoefficientSources {
 
   /// Source of what `Cpe` gives for the zone and the case now selected: standard, edition and table that the
   /// figure is taken from, zone, parameter with the corner values used and the fraction between them, status.
-  /// A figure that stands in names its own standard and says what it stands in for. Raises what `Cpe` raises.
+  /// A figure of a substitute table names its own standard and the table that it replaces. Raises what `Cpe`
+  /// raises.
   virtual SourceRecord Source() const = 0;
 };
 

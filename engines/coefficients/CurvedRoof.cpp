@@ -45,7 +45,7 @@ Reading ArchReading(const Cell& cell, bool suction, std::string_view part) {
   reading.origin = &kArchedRoofs;
   reading.column = part;
   reading.figure.found = true;
-  reading.figure.mark = Mark::StandInRecalled;
+  reading.figure.mark = Mark::SubstituteRecalled;
   reading.figure.suction = asked ? suction : !suction;
   reading.value = reading.figure.suction ? cell.suction : cell.pressure;
   reading.figure.value = reading.value;

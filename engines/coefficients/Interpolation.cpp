@@ -26,6 +26,10 @@ Mark MarkOf(const Cell& cell, bool suction) {
   return suction ? cell.mark : cell.pressureMark;
 }
 
+double StrongerOf(const Cell& cell, bool suction) {
+  return suction ? cell.strongerSuction : cell.strongerPressure;
+}
+
 double BlankAsZero(double figure) {
   return IsBlank(figure) ? 0.0 : figure;
 }
@@ -49,6 +53,10 @@ Figure ReadFigure(const Block& block, std::size_t column, const Position& positi
   figure.suction = asked ? suction : !suction;
   figure.lowerFigure = BlankAsZero(FigureOf(lower, figure.suction));
   figure.upperFigure = BlankAsZero(FigureOf(upper, figure.suction));
+  figure.lowerBlank = IsBlank(FigureOf(lower, figure.suction));
+  figure.upperBlank = IsBlank(FigureOf(upper, figure.suction));
+  figure.lowerStronger = StrongerOf(lower, figure.suction);
+  figure.upperStronger = StrongerOf(upper, figure.suction);
   figure.mark = MarkOf(lower, upper, figure.suction);
   figure.value = figure.lowerFigure + position.fraction * (figure.upperFigure - figure.lowerFigure);
   return figure;

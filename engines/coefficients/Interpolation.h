@@ -24,8 +24,12 @@ struct Figure {
   bool suction = false;    ///< The case that the value is of, which needn't be the case asked for.
   double lowerFigure = 0;  ///< The corner figures used; a blank beside a figure counts as 0.
   double upperFigure = 0;
-  Mark mark = Mark::StandIn;  ///< Of the weaker corner.
-  bool found = false;         ///< False if a row used has no figure at all in this column.
+  bool lowerBlank = false;
+  bool upperBlank = false;
+  double lowerStronger = kBlank;  ///< Recalled figures of BS 6399-2 that are stronger than the corners.
+  double upperStronger = kBlank;
+  Mark mark = Mark::SubstituteTwice;  ///< Of the weaker corner.
+  bool found = false;                 ///< False if a row used has no figure at all in this column.
 };
 
 /// The figure of a column at a position. Each case is interpolated by itself, a blank beside a figure

@@ -18,24 +18,36 @@ SourceStatus StatusOf(Mark mark) {
     case Mark::Recalled:
     case Mark::RecalledMedium:
       return SourceStatus::Recalled;
-    case Mark::StandIn:
-    case Mark::StandInRecalled:
-    case Mark::StandInDiffering:
-      break;
+    default:
+      return SourceStatus::Substitute;
   }
-  return SourceStatus::StandingIn;
 }
 
-std::string_view MarkNote(Mark mark) {
+bool IsSubstitute(Mark mark) {
+  return StatusOf(mark) == SourceStatus::Substitute;
+}
+
+/// What the status of a figure rests on, as read after the status.
+std::string BasisOf(Mark mark, bool substitute, std::string_view ofBlock) {
   switch (mark) {
+    case Mark::Recalled:
+      return "with high confidence";
     case Mark::RecalledMedium:
-      return "confidence medium";
-    case Mark::StandInRecalled:
-      return "recalled";
-    case Mark::StandInDiffering:
-      return "two public copies read differ";
+      return "with medium confidence";
+    case Mark::SubstituteTwice:
+      return "read in two public copies";
+    case Mark::SubstituteTwiceOfMore:
+      return "read in two public copies, another differs";
+    case Mark::Substitute:
+      return "read in one public copy";
+    case Mark::SubstituteOnceOfMore:
+      return "read in one public copy, another differs";
+    case Mark::SubstituteRecalled:
+      return "as recalled";
+    case Mark::Office:
+      return substitute ? "from the office's table file" : "by the office's table file";
     default:
-      return {};
+      return std::string(ofBlock);
   }
 }
 
@@ -45,7 +57,7 @@ void AppendNote(std::string& note, std::string_view part) {
   note += part;
 }
 
-/// Name of the table that a figure stands in for.
+/// Name of the table that a substitute is used for.
 std::string_view ReplacedTable(Shape shape) {
   switch (shape) {
     case Shape::Walls:
@@ -68,9 +80,24 @@ std::string_view ReplacedTable(Shape shape) {
   return {};
 }
 
+/// A corner figure, and what is known of it beside its status.
+void TakeCorner(SourceRecord& record, const Reading& reading, bool upper) {
+  const Figure& figure = reading.figure;
+  if (upper ? figure.upperBlank : figure.lowerBlank) record.blankCorners.push_back(record.corners.size());
+  record.corners.push_back(upper ? figure.upperFigure : figure.lowerFigure);
+  const double stronger = upper ? figure.upperStronger : figure.lowerStronger;
+  // On a row both corners are one.
+  if (IsBlank(stronger) || (upper && reading.position.upper == reading.position.lower)) return;
+  const Block& block = *reading.block;
+  const double parameter = block.rows[upper ? reading.position.upper : reading.position.lower].parameter;
+  record.weaker.push_back({"zone " + std::string(reading.column) + ", " + std::string(block.parameter) + " " +
+                               InputText(parameter) + " degrees",
+                           std::string(reading.table->name), record.corners.back(), stronger});
+}
+
 void AppendAxis(SourceRecord& record, const Reading& reading) {
   const Block& block = *reading.block;
-  record.corners.push_back(reading.figure.lowerFigure);
+  TakeCorner(record, reading, false);
   if (block.rowCount < 2) return;
   if (!block.rows[0].name.empty())
     AppendNote(record.note,
@@ -82,7 +109,21 @@ void AppendAxis(SourceRecord& record, const Reading& reading) {
   axis.high = block.rows[reading.position.upper].parameter;
   axis.fraction = reading.position.fraction;
   record.axes.push_back(std::move(axis));
-  record.corners.push_back(reading.figure.upperFigure);
+  TakeCorner(record, reading, true);
+}
+
+/// A substitute has a basis of its own, whatever else the figures are known by.
+void AppendStatus(SourceRecord& record, const Request& request, const Reading& reading) {
+  const Mark mark = reading.figure.mark;
+  // A curved roof has no table of its own: whatever it is read from is a substitute.
+  const bool substitute = reading.origin->substitute || request.shape == Shape::Curved;
+  record.status = substitute ? SourceStatus::Substitute : StatusOf(mark);
+  record.basis = BasisOf(mark, substitute, reading.block ? reading.block->basis : std::string_view());
+  if (!substitute) return;
+  record.replaces = ReplacedTable(request.shape);
+  record.caution = reading.origin->caution;
+  if (!IsSubstitute(mark) && mark != Mark::Office)
+    record.basis = "that is " + std::string(SourceStatusText(StatusOf(mark))) + " " + record.basis;
 }
 
 }  // namespace
@@ -97,16 +138,11 @@ SourceRecord SourceOf(const Request& request, const Reading& reading) {
   record.item = "zone " + std::string(request.letters) + " at Theta " + InputText(request.inputs.theta);
   if (reading.column != request.letters) record.item.append(", read at ").append(reading.column);
   record.item += reading.figure.suction ? ", suction" : ", pressure";
-  record.status = StatusOf(reading.figure.mark);
-  // A curved roof has no table of its own: whatever it is read from stands in.
-  if (origin.standsIn || request.shape == Shape::Curved) record.status = SourceStatus::StandingIn;
   if (reading.block)
     AppendAxis(record, reading);
   else
     record.corners.push_back(std::round(reading.value * 1e6) / 1e6);
-  if (record.status == SourceStatus::StandingIn)
-    AppendNote(record.note, "stands in for " + std::string(ReplacedTable(request.shape)));
-  AppendNote(record.note, MarkNote(reading.figure.mark));
+  AppendStatus(record, request, reading);
   AppendNote(record.note, origin.remark);
   AppendNote(record.note, reading.note);
   return record;

@@ -56,7 +56,7 @@ double WordToNumber(std::string_view word) {
 }
 
 std::string ReadCell(std::string_view word, bool net, Cell& cell) {
-  cell = {kBlank, kBlank, Mark::Office, Mark::Office};
+  cell = {.mark = Mark::Office, .pressureMark = Mark::Office};
   if (word == "-") return {};
   const std::size_t slash = word.find('/');
   std::string reason = slash == std::string_view::npos

@@ -215,8 +215,8 @@ class Reader {
     m_office->standard = m_head[Standard];
     m_office->edition =
         m_head[Edition] + "; checked by " + m_head[CheckedBy] + " on " + m_head[CheckedOn] + ", table file";
-    const bool standsIn = !m_office->standard.starts_with("BS 6399-2");
-    m_office->origin = {m_office->standard, m_office->edition, "", "", standsIn};
+    const bool substitute = !m_office->standard.starts_with("BS 6399-2");
+    m_office->origin = {m_office->standard, m_office->edition, "", "", substitute};
     for (std::size_t i = 0; i < table.blockCount; ++i) {
       Block& block = table.blocks[i];
       if (block.columns == 0) Fail("section " + Quoted(m_builtIn->blocks[i].heading) + " is missing");

@@ -34,7 +34,7 @@ using TableFileResult = std::variant<std::unique_ptr<const OfficeTable>, TableFa
 /// - `#` begins a remark line; empty lines are skipped; words are divided by blanks or tabs.
 /// - A head of the lines `Table:`, `Standard:`, `Edition:`, `Checked by:`, `Checked on:` (year-month-day). A
 /// standard
-///   other than BS 6399-2 stays marked as standing in.
+///   other than BS 6399-2 stays marked as a substitute.
 /// - Every section of the table, `[heading]`: a line with the name of the row parameter and the zones'
 /// letters, in any
 ///   order, then a line for each row: the parameter, rising, or the row's name, and a cell for each letter.

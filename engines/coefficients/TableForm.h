@@ -12,14 +12,16 @@ namespace orve::coefficients {
 
 /// What is known of a figure.
 enum class Mark : unsigned char {
-  Confirmed,         ///< Read in an outside source that applies the standard.
-  Consistent,        ///< Known, and equal to a worked example or a sister table.
-  Recalled,          ///< Known here only; confidence high.
-  RecalledMedium,    ///< Known here only; confidence medium.
-  StandIn,           ///< Of another table, read in public copies.
-  StandInRecalled,   ///< Of another table, recalled.
-  StandInDiffering,  ///< Of another table; two public copies differ.
-  Office,            ///< From an office's table file.
+  Confirmed,              ///< Read in an outside source that applies the standard.
+  Consistent,             ///< Known, and equal to what the block's `basis` names.
+  Recalled,               ///< Known here only; confidence high.
+  RecalledMedium,         ///< Known here only; confidence medium.
+  SubstituteTwice,        ///< Of a substitute table, read in two public copies.
+  SubstituteTwiceOfMore,  ///< The same, but another copy has another figure.
+  Substitute,             ///< Of a substitute table, read in one public copy.
+  SubstituteOnceOfMore,   ///< The same, but another copy has another figure.
+  SubstituteRecalled,     ///< Of a substitute table, recalled.
+  Office,                 ///< From an office's table file.
 };
 
 inline constexpr double kBlank = std::numeric_limits<double>::quiet_NaN();
@@ -32,24 +34,35 @@ constexpr bool IsBlank(double figure) {
 struct Cell {
   double suction = kBlank;
   double pressure = kBlank;
-  Mark mark = Mark::StandIn;
-  Mark pressureMark = Mark::StandIn;
+  Mark mark = Mark::SubstituteTwice;
+  Mark pressureMark = Mark::SubstituteTwice;
+  /// In a substitute table, a recalled figure of BS 6399-2 that is stronger; blank if none is.
+  double strongerSuction = kBlank;
+  double strongerPressure = kBlank;
+
+  /// The same cell beside a recalled figure of BS 6399-2 that is stronger than that of its sign.
+  constexpr Cell WeakerThan(double recalled) const {
+    Cell cell = *this;
+    (recalled < 0 ? cell.strongerSuction : cell.strongerPressure) = recalled;
+    return cell;
+  }
 
   constexpr bool Empty() const { return IsBlank(suction) && IsBlank(pressure); }
 };
 
-// Cells as the table files of this folder write them.
-constexpr Cell S(double suction, Mark mark = Mark::StandIn) {
-  return {suction, kBlank, mark, mark};
+// Cells as the table files of this folder write them; without a mark they are of a substitute table, read in
+// two public copies.
+constexpr Cell S(double suction, Mark mark = Mark::SubstituteTwice) {
+  return {.suction = suction, .mark = mark, .pressureMark = mark};
 }
-constexpr Cell P(double pressure, Mark mark = Mark::StandIn) {
-  return {kBlank, pressure, mark, mark};
-}
-constexpr Cell SP(double suction, double pressure, Mark mark = Mark::StandIn) {
-  return {suction, pressure, mark, mark};
+constexpr Cell P(double pressure, Mark mark = Mark::SubstituteTwice) {
+  return {.pressure = pressure, .mark = mark, .pressureMark = mark};
 }
 constexpr Cell SP(double suction, double pressure, Mark mark, Mark pressureMark) {
-  return {suction, pressure, mark, pressureMark};
+  return {.suction = suction, .pressure = pressure, .mark = mark, .pressureMark = pressureMark};
+}
+constexpr Cell SP(double suction, double pressure, Mark mark = Mark::SubstituteTwice) {
+  return SP(suction, pressure, mark, mark);
 }
 
 inline constexpr std::size_t kMaxColumns = 9;
@@ -68,8 +81,9 @@ struct Origin {
   std::string_view edition;
   std::string_view
       table;  ///< Table or figures of `standard`, where they aren't those of the block's own table.
-  std::string_view remark;  ///< Said beside every value.
-  bool standsIn = false;    ///< True if the figures stand in for those of BS 6399-2.
+  std::string_view remark;     ///< Said beside every value.
+  bool substitute = false;     ///< True if the figures are used in the place of those of BS 6399-2.
+  std::string_view caution{};  ///< Of a substitute table: how it may differ from the print.
 };
 
 /// One block of a table: the rows under one heading.
@@ -81,6 +95,8 @@ struct Block {
   std::array<Row, kMaxRows> rows{};
   std::size_t rowCount = 0;
   const Origin* origin = nullptr;
+  /// What its confirmed and consistent cells rest on: "by ..." or "with ...".
+  std::string_view basis{};
 
   constexpr double First() const { return rows[0].parameter; }
   constexpr double Last() const { return rows[rowCount - 1].parameter; }
@@ -89,12 +105,14 @@ struct Block {
 /// A block of the rows given.
 template <std::size_t R>
 constexpr Block MakeBlock(std::string_view heading, std::string_view parameter, const Origin& origin,
-                          std::initializer_list<std::string_view> letters, const Row (&rows)[R]) {
+                          std::initializer_list<std::string_view> letters, const Row (&rows)[R],
+                          std::string_view basis = {}) {
   static_assert(R <= kMaxRows);
   Block block;
   block.heading = heading;
   block.parameter = parameter;
   block.origin = &origin;
+  block.basis = basis;
   for (const std::string_view letter : letters) block.letters[block.columns++] = letter;
   for (const Row& row : rows) block.rows[block.rowCount++] = row;
   return block;

@@ -47,6 +47,26 @@ SourceRecord TableRecord(const DistanceTable<Rows, Columns>& table, const Bracke
   return record;
 }
 
+/// What the status of a factor rests on, as read after the status.
+std::string_view BasisOf(WindFactor factor, SourceStatus status) {
+  if (factor == WindFactor::Sb || factor == WindFactor::q) return "like its weakest factor";
+  if (status == SourceStatus::Confirmed) return "by an outside source or published calculations";
+  if (status == SourceStatus::Recalled) return factor == WindFactor::Ca ? "with low confidence" : "";
+  if (status != SourceStatus::Consistent) return {};
+  switch (factor) {
+    case WindFactor::Sp:
+      return "with the probability factor of EN 1991-1-4";
+    case WindFactor::Ss:
+      return "with those figures of a sister table that were read";
+    case WindFactor::Sd:
+      return "with the direction factor of the UK annex to EN 1991-1-4";
+    case WindFactor::Ca:
+      return "with the gust peak factor 3.44, which belongs to a 5 m diagonal";
+    default:
+      return {};
+  }
+}
+
 /// Makes the records of one sector.
 class Records {
  public:
@@ -54,6 +74,13 @@ class Records {
       : m_inputs(inputs), m_site(site), m_sector(sector), m_results(site.sectors[sector]) {}
 
   SourceRecord Of(WindFactor factor) const {
+    SourceRecord record = Make(factor);
+    record.basis = BasisOf(factor, record.status);
+    return record;
+  }
+
+ private:
+  SourceRecord Make(WindFactor factor) const {
     switch (factor) {
       case WindFactor::Sp:
         return Record("annex D", "probability factor Sp", SourceStatus::Consistent,
@@ -90,7 +117,6 @@ class Records {
     return SizeEffect();
   }
 
- private:
   double Value(Input input) const { return m_inputs.Value(input, m_sector); }
 
   SourceRecord Season() const {

@@ -42,7 +42,7 @@ struct WorstCase {
 /// Walks the sectors within 45 degrees of a face's normal, or all twelve if the orientation is unknown,
 /// reading q and then Ca of each; of equal products the first stays. The two ends of a window that lies
 /// between sectors are interpolated and measured against the best whole sector; if both beat it, the high end
-/// stands.
+/// stands, even where the low one is the greater.
 WorstCase SearchWorstCase(clsDynamicPressure& dynamicPressure, WindAreas windArea, bool orientationUnknown,
                           float angleNormalToFace);
 

@@ -56,8 +56,10 @@ class clsExternalCoefficients : public std::enable_shared_from_this<clsExternalC
   /// Wind angle normal to the face, degrees; -1 if the orientation is unknown.
   float Hybrid_AngleNormalToFace(Faces face = Faces(-1)) const;
 
-  /// q and Ca of the worst wind for the zone: the greatest q Ca within 45 degrees of the wind face's normal,
-  /// or of all sectors if the orientation is unknown.
+  /// q and Ca of the worst wind for the zone: of the greatest q Ca of the whole sectors within 45 degrees of
+  /// the wind face's normal, or of all sectors if the orientation is unknown. An end of the window between
+  /// two sectors takes their place if it is greater; if both ends are, the upper one stands, even where the
+  /// lower one is the greater.
   float Hybrid_WorstCase_DynamicPressure_q(BuildingAreas buildingArea = BuildingAreas(-1),
                                            Faces face = Faces(-1), std::int16_t zoneIndex = -1);
   float Hybrid_WorstCase_SizeEffectFactor_Ca(BuildingAreas buildingArea = BuildingAreas(-1),

@@ -1,11 +1,14 @@
 // Where figures come from, and the table files that replace them.
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "coefficients/Refusal.h"
 #include "coefficients/TableFile.h"
 #include "coefficients/TableSet.h"
 #include "common/Host.h"
@@ -31,6 +34,7 @@ TEST_F(CoefficientSource, GivesCornersFractionAndStatus) {
   EXPECT_EQ(source.axes[0].high, 4);
   EXPECT_NEAR(source.axes[0].fraction, (15.0 / 7 - 1) / 3, 1e-12);
   EXPECT_EQ(source.corners, (std::vector<double>{0.85, 0.6}));
+  EXPECT_EQ(source.StatusText(), "confirmed by one printed figure that fits the pair");
 
   // The weaker of the two corners rules: A isolated is recalled, A funnelling is consistent.
   Look(Walls, 90, 0);
@@ -43,24 +47,25 @@ TEST_F(CoefficientSource, GivesCornersFractionAndStatus) {
   EXPECT_NE(Source().note.find("figures of the standard method"), std::string::npos);
 }
 
-TEST_F(CoefficientSource, StandInsAreNeverShownAsFiguresOfTheStandard) {
+TEST_F(CoefficientSource, SubstitutesAreNeverShownAsFiguresOfTheStandard) {
   engine->Roof_Pitch(6);
   const struct {
     int shape;
     const char* standard;
-    const char* note;
+    const char* replaces;
   } cases[] = {
-      {Mono, "EN 1991-1-4", "stands in for BS 6399-2 Table 9"},
-      {Duo, "EN 1991-1-4", "stands in for BS 6399-2 Table 10"},
-      {Hipped, "EN 1991-1-4", "stands in for BS 6399-2 Table 11"},
+      {Mono, "EN 1991-1-4", "BS 6399-2 Table 9"},
+      {Duo, "EN 1991-1-4", "BS 6399-2 Table 10"},
+      {Hipped, "EN 1991-1-4", "BS 6399-2 Table 11"},
   };
   for (const auto& test : cases) {
     Look(test.shape, 0);
     engine->Suction(true);
     const SourceRecord source = Source();
     EXPECT_EQ(source.standard, test.standard);
-    EXPECT_EQ(source.status, SourceStatus::StandingIn);
-    EXPECT_EQ(source.note, test.note);
+    EXPECT_EQ(source.status, SourceStatus::Substitute);
+    EXPECT_EQ(source.replaces, test.replaces);
+    EXPECT_NE(source.caution, "");
     EXPECT_EQ(source.axes.at(0).unit, "degrees");
     EXPECT_NEAR(source.axes.at(0).fraction, 0.1, 1e-12);
     EXPECT_EQ(source.corners.size(), 2U);
@@ -68,15 +73,108 @@ TEST_F(CoefficientSource, StandInsAreNeverShownAsFiguresOfTheStandard) {
   engine->Parapet_H(2);
   Look(Flat, 0);
   EXPECT_EQ(Source().standard, "recalled figures");
-  EXPECT_EQ(Source().status, SourceStatus::StandingIn);
+  EXPECT_EQ(Source().status, SourceStatus::Substitute);
 
   engine->Barrel_r(3);
   for (const double theta : {0.0, 90.0})
     for (int zone = 0; zone < 6; ++zone) {
       Look(Curved, theta, zone);
-      EXPECT_EQ(Source().status, SourceStatus::StandingIn);
-      EXPECT_NE(Source().note.find("curved roofs"), std::string::npos);
+      EXPECT_EQ(Source().status, SourceStatus::Substitute);
+      EXPECT_NE(Source().replaces.find("curved roofs"), std::string::npos);
     }
+}
+
+TEST_F(CoefficientSource, SaysWhatAStatusRestsOn) {
+  const struct {
+    int shape;
+    double theta;
+    const char* zone;
+    float pitch;
+    bool suction;
+    const char* status;
+  } cases[] = {
+      {Walls, 180, "Leeward", 0, true, "recalled with high confidence"},
+      {Walls, 90, "B", 0, true, "consistent with a sister table"},
+      {Flat, 0, "A", 0, true, "consistent with a published calculation"},
+      {Parapet, 0, "A", 0, false, "consistent with EN 1991-1-4, walls at least ten times as long as high"},
+      {Mono, 180, "C", 30, true, "substitute table read in two public copies"},
+      {Mono, 180, "C", 45, true, "substitute table read in two public copies, another differs"},
+      {Duo, 0, "E", 15, false, "substitute table read in two public copies, another differs"},
+      {Duo, 0, "G", 15, false, "substitute table read in two public copies"},
+      {Hipped, 0, "A", 30, false, "substitute table read in two public copies"},
+      {Hipped, 0, "B", 30, false, "substitute table read in one public copy"},
+      {Hipped, 0, "F", 15, true, "substitute table read in one public copy, another differs"},
+      {Hipped, 0, "G", 30, true, "substitute table read in two public copies, another differs"},
+      {Curved, 0, "C", 0, true, "substitute table as recalled"},
+      {Curved, 90, "A", 0, true, "substitute table that is consistent with a published calculation"},
+  };
+  engine->Barrel_r(3);
+  for (const auto& test : cases) {
+    engine->Roof_Pitch(test.pitch);
+    ASSERT_TRUE(LookAt(test.shape, test.theta, test.zone)) << test.zone;
+    engine->Suction(test.suction);
+    EXPECT_EQ(Source().StatusText(), test.status) << Source().Text();
+  }
+  for (const char* name : {"Table 5", "Table 8", "Table 21"})
+    for (const Block& block : FindBuiltInTable(name)->blocks)
+      EXPECT_TRUE(!block.origin || block.origin->substitute || !block.basis.empty()) << block.heading;
+}
+
+TEST_F(CoefficientSource, ShowsABlankThatCountsAsZeroAsABlank) {
+  engine->Roof_Pitch(-10);
+  ASSERT_TRUE(LookAt(Duo, 0, "E"));
+  EXPECT_FLOAT_EQ(Pressure(), 0.1F);
+  const SourceRecord source = Source();
+  EXPECT_EQ(source.corners, (std::vector<double>{0, 0.2}));
+  EXPECT_EQ(source.blankCorners, (std::vector<std::size_t>{0}));
+  EXPECT_NE(source.Text().find("(0.500): blank 0.2 ["), std::string::npos) << source.Text();
+  EXPECT_NE(source.Text().find("a blank counts as 0"), std::string::npos);
+}
+
+TEST_F(CoefficientSource, NamesRecalledFiguresThatAreStrongerThanASubstitute) {
+  std::set<std::string> found;
+  for (const char* name : {"Table 9", "Table 10", "Table 11"})
+    for (const Block& block : FindBuiltInTable(name)->blocks)
+      for (std::size_t row = 0; row < block.rowCount; ++row)
+        for (std::size_t column = 0; column < block.columns; ++column)
+          for (const bool suction : {true, false}) {
+            const Cell& cell = block.rows[row].cells[column];
+            const double stronger = suction ? cell.strongerSuction : cell.strongerPressure;
+            if (IsBlank(stronger)) continue;
+            EXPECT_GT(std::fabs(stronger), std::fabs(suction ? cell.suction : cell.pressure));
+            found.insert(std::string(name) + " " + std::string(block.letters[column]) + " " +
+                         InputText(block.rows[row].parameter) + " " + InputText(stronger));
+          }
+  std::set<std::string> recalled;
+  for (const std::string name : {"Table 9 ", "Table 10 "})
+    for (const char* cell : {"A 5 -1.8", "A 30 0.8", "A 45 0.8", "A 60 0.8", "B 60 0.8", "C 60 0.8"})
+      recalled.insert(name + cell);
+  EXPECT_EQ(found, recalled);
+
+  const struct {
+    float pitch;
+    bool suction;
+    std::vector<std::string> texts;
+  } cases[] = {
+      {5, true, {"-1.7 for the recalled -1.8 of BS 6399-2 Table 10 (zone A, pitch 5 degrees)"}},
+      {6, true, {"-1.7 for the recalled -1.8 of BS 6399-2 Table 10 (zone A, pitch 5 degrees)"}},
+      {15, true, {}},
+      {50,
+       false,
+       {"0.7 for the recalled 0.8 of BS 6399-2 Table 10 (zone A, pitch 45 degrees)",
+        "0.7 for the recalled 0.8 of BS 6399-2 Table 10 (zone A, pitch 60 degrees)"}},
+  };
+  Look(Duo, 0, 0);
+  for (const auto& test : cases) {
+    engine->Roof_Pitch(test.pitch);
+    engine->Suction(test.suction);
+    std::vector<std::string> texts;
+    for (const WeakerFigure& figure : Source().weaker) {
+      texts.push_back(figure.Text());
+      EXPECT_NE(Source().Text().find("weaker: " + figure.Text()), std::string::npos);
+    }
+    EXPECT_EQ(texts, test.texts) << test.pitch;
+  }
 }
 
 std::string ReadSample(const std::string& name) {
@@ -95,7 +193,7 @@ TEST(TableFile, SamplesHoldTheBuiltInFigures) {
                                   << std::get<TableFault>(result).reason;
     const Table& read = std::get<0>(result)->table;
     const Table& builtIn = *FindBuiltInTable(name);
-    EXPECT_TRUE(read.blocks[0].origin->standsIn);
+    EXPECT_TRUE(read.blocks[0].origin->substitute);
     for (std::size_t b = 0; b < builtIn.blockCount; ++b) {
       ASSERT_EQ(read.blocks[b].rowCount, builtIn.blocks[b].rowCount) << name;
       for (std::size_t r = 0; r < builtIn.blocks[b].rowCount; ++r) {
@@ -201,7 +299,7 @@ TEST_F(CoefficientTableFolder, GoodFileReplacesTableAndSource) {
   EXPECT_FLOAT_EQ(Pressure(), 1.9F);
   EXPECT_EQ(Source().standard, "BS 6399-2");
   EXPECT_EQ(Source().edition, "1997; checked by the office on 2026-11-24, table file");
-  EXPECT_EQ(Source().status, SourceStatus::Confirmed);
+  EXPECT_EQ(Source().StatusText(), "confirmed by the office's table file");
 }
 
 TEST_F(CoefficientTableFolder, FaultyFileBarsItsShapesAtCpeAlone) {

@@ -305,7 +305,7 @@ TEST(WindSpeedSourceRecords, TellTableCornersFractionsAndStatus) {
             std::string::npos)
       << tc.Text();
   const SourceRecord ca = SourcesOf(*engine).Source(WindFactor::Ca, kWest);
-  EXPECT_NE(ca.Text().find("line C: 0.19 [recalled]"), std::string::npos) << ca.Text();
+  EXPECT_NE(ca.Text().find("line C: 0.19 [recalled with low confidence]"), std::string::npos) << ca.Text();
 
   struct Status {
     std::map<std::string, float> site;
@@ -316,6 +316,8 @@ TEST(WindSpeedSourceRecords, TellTableCornersFractionsAndStatus) {
   const Status kStatuses[] = {
       {{}, WindFactor::Sd, SourceStatus::Consistent},
       {{}, WindFactor::Ss, SourceStatus::Consistent},
+      {{}, WindFactor::Sp, SourceStatus::Consistent},
+      {{}, WindFactor::Ca, SourceStatus::Consistent},
       {{}, WindFactor::Sa, SourceStatus::Confirmed},
       {hill, WindFactor::Sa, SourceStatus::Recalled},
       {hill, WindFactor::Sh, SourceStatus::Recalled},
@@ -331,6 +333,7 @@ TEST(WindSpeedSourceRecords, TellTableCornersFractionsAndStatus) {
   for (const Status& expected : kStatuses) {
     const auto record = SourcesOf(*Engine(expected.site)).Source(expected.factor, kWest);
     EXPECT_EQ(record.status, expected.status) << record.Text();
+    EXPECT_TRUE(record.status != SourceStatus::Consistent || !record.basis.empty()) << record.Text();
   }
   EXPECT_THROW(SourcesOf(*Engine({{"H", 0}})).Source(WindFactor::Sc, kWest), Error);
   EXPECT_THROW(SourcesOf(*engine).Source(static_cast<WindFactor>(15), kWest), Error);

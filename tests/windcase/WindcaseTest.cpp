@@ -203,7 +203,8 @@ TEST_F(Program, ExplainsALoadDownToItsTables) {
   const std::string tree = Output({"explain", "shed.wlc", "roof", "1", "A"});
   for (const char* part :
        {"pe_p + pi_s governs", "= Ca \u00D7 q \u00D7 Cpe_p", "Sb \u00D7 Vs", "worst wind: 240 degrees",
-        "Table 22", "[standing in]", "Roof, Face 1, zone A: +0.348, -0.851 kN/m\u00B2"})
+        "Table 22", "[substitute table read in two public copies]",
+        "Roof, Face 1, zone A: +0.348, -0.851 kN/m\u00B2"})
     EXPECT_TRUE(Has(tree, part)) << part;
   EXPECT_FALSE(Has(Output({"explain", "shed.wlc", "roof", "Face 1", "0", "--depth", "2"}), "Table 22"));
   EXPECT_TRUE(
@@ -211,9 +212,9 @@ TEST_F(Program, ExplainsALoadDownToItsTables) {
   EXPECT_TRUE(Has(Output({"explain", "shed.wlc", "roof", "1", "A", "--json"}), "\"see\": "));
 }
 
-TEST_F(Program, WarnsWhereALoadIsZeroOrAFigureStandsIn) {
+TEST_F(Program, WarnsOfLoadsThatAreTooSmallAndOfSubstitutes) {
   MakeShed("shed.wlc");
-  EXPECT_TRUE(Has(Output({"loads", "shed.wlc"}), "stands in for a figure of BS 6399-2"));
+  EXPECT_TRUE(Has(Output({"loads", "shed.wlc"}), "substitute table for BS 6399-2 Table 10"));
   EXPECT_TRUE(Has(Output({"set", "shed.wlc", "Wall_GableFaces=Faces 1 and 3"}), "warning: The gable faces"));
   Output({"set", "shed.wlc", "Roof_Diagonal=0", "InternalVolume=0"});
   const std::string loads = Output({"loads", "shed.wlc"});

@@ -79,7 +79,7 @@ std::string DrawingNote(const Content& content, const AreaZones& area) {
 std::string DerivationRow(const DerivationLine& line, Marks& marks, Warnings& warnings) {
   const explain::Quantity& quantity = *line.quantity;
   Marks own;
-  for (const std::string& text : quantity.warnings) warnings.Mark(own, text);
+  for (const explain::Warning& warning : quantity.warnings) warnings.Mark(own, warning.text);
   marks.insert(marks.end(), own.begin(), own.end());
   const bool input = quantity.layer == explain::Layer::Input && quantity.clause.empty();
   std::string notes;

@@ -51,6 +51,7 @@ struct ZoneRow {
   std::int16_t zone = 0;
   std::string name;
   Marked dimensions;
+  bool absent = false;   ///< A length isn't above 0.
   std::string windFrom;  ///< Number of the face that the wind blows on.
   Marked cpePressure, cpeSuction, q, Ca, external, internal, overall;
   float pressure = 0;  ///< Overall loads, kN/m².

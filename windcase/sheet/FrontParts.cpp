@@ -40,7 +40,8 @@ std::string GoverningRow(const AreaZones& area, const Governing& governing, cons
   return head +
          Cell("<b>" + Escaped(FormatSignedLoad(governing.load)) + "</b>" + MarkMarkup(row.overall.marks)) +
          Cell(Escaped(std::string(PublishedText(area.faces[face].face)))) + Cell(Escaped(row.name)) +
-         Cell(row.dimensions.text.empty() ? "the rest of the surface" : MarkedMarkup(row.dimensions)) +
+         Cell(row.dimensions.text.empty() ? "the rest of the surface"
+                                          : MarkedMarkup(row.dimensions) + (row.absent ? "<br>absent" : "")) +
          "</tr>\n";
 }
 

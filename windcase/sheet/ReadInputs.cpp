@@ -69,7 +69,8 @@ void AddWalls(InputList& list, const clsBuildingDimensions& building, Warnings& 
   list.Add("Height of the gable walls", building.Wall_GableHeight(), kMetres);
   list.Add("Diagonal of the gable walls", building.Wall_GableDiagonal(), kMetres);
   InputRow& gables = list.AddChoice("Gables", building.Wall_GableFaces());
-  for (const std::string& warning : explain::CaseWarnings()) warnings.Mark(gables.value.marks, warning);
+  for (const explain::Warning& warning : explain::CaseWarnings())
+    warnings.Mark(gables.value.marks, warning.text);
   list.Add("Gap beside Face 1", building.Wall_GapFace1(), kMetres);
   list.Add("Gap beside Face 2", building.Wall_GapFace2(), kMetres);
   list.Add("Gap beside Face 3", building.Wall_GapFace3(), kMetres);

@@ -23,22 +23,24 @@ QuantityPtr Child(const Quantity& quantity, const std::string& symbol) {
 }
 
 void MarkOwn(Marks& marks, const Quantity& quantity, Warnings& warnings) {
-  for (const std::string& text : quantity.warnings) warnings.Mark(marks, text);
+  for (const explain::Warning& warning : quantity.warnings) warnings.Mark(marks, warning.text);
 }
 
 void MarkAll(Marks& marks, const QuantityPtr& quantity, Warnings& warnings) {
   if (!quantity) return;
-  for (const std::string& text : explain::WarningsOf({&quantity, 1})) warnings.Mark(marks, text);
+  for (const explain::Warning& warning : explain::WarningsOf({&quantity, 1}))
+    warnings.Mark(marks, warning.text);
 }
 
-// Each warning goes to the number that it touches: those of the coefficient, of q and of Ca to these, the
-// rest to the load.
+// Each warning goes to the number that it touches: those of the coefficient, of q and of Ca to these, that of
+// the search to q and Ca, the rest to the load.
 void MarkExternal(ZoneRow& row, const Quantity& load, Warnings& warnings) {
   MarkOwn(row.external.marks, load, warnings);
   MarkAll(row.cpePressure.marks, Child(load, "Cpe_p"), warnings);
   MarkAll(row.cpeSuction.marks, Child(load, "Cpe_s"), warnings);
   MarkAll(row.q.marks, Child(load, "q"), warnings);
   MarkAll(row.Ca.marks, Child(load, "Ca"), warnings);
+  for (Marks* marks : {&row.q.marks, &row.Ca.marks}) MarkOwn(*marks, *Child(load, "wind"), warnings);
 }
 
 void MarkRow(ZoneRow& row, Warnings& warnings) {
@@ -78,10 +80,9 @@ void ReadLoads(ZoneRow& row, BuildingAreas area, Faces face, Warnings& warnings)
 void ReadSize(ZoneRow& row, BuildingAreas area, Faces face, Warnings& warnings) {
   row.dimensions.text =
       RequireCurrentCase().OverallAppliedLoads()->Hybrid_ZoneDimensions(area, face, row.zone);
-  if (row.dimensions.text.find('-') != std::string::npos)
-    warnings.Mark(
-        row.dimensions.marks,
-        "A length below 0: the zone lies wholly on the cantilever, or the surface is too small for it");
+  const auto warning = explain::WarnOfZoneSize(area, face, row.zone);
+  row.absent = warning.has_value();
+  if (warning) warnings.Mark(row.dimensions.marks, warning->text);
 }
 
 ZoneRow ReadZone(BuildingAreas area, Faces face, std::int16_t zone, Warnings& warnings) {
@@ -122,7 +123,7 @@ void CollectSources(const Quantity& quantity, std::set<const Quantity*>& seen,
     const SourceRecord& source = *quantity.source;
     std::string text = source.table + ": " + source.standard;
     if (!source.edition.empty()) text += ", " + source.edition;
-    text += " (" + std::string(SourceStatusText(source.status)) + ")";
+    text += " (" + source.StatusText() + ")";
     if (std::find(sources.begin(), sources.end(), text) == sources.end()) sources.push_back(text);
   }
   for (const QuantityPtr& child : quantity.children) CollectSources(*child, seen, sources);

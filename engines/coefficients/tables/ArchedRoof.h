@@ -1,4 +1,4 @@
-// Curved roofs: BS 6399-2 prints no table for them. What stands in: the arched roofs of ASCE 7, figures for
+// Curved roofs: BS 6399-2 prints no table for them. The substitute: the arched roofs of ASCE 7, figures for
 // main systems, as recalled. r is rise over span; each figure is `slope` r + `constant`. No unit; suction
 // below 0.
 #pragma once

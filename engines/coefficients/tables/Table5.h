@@ -19,13 +19,13 @@ inline constexpr Table kTable5 = MakeTable("Table 5", "vertical walls", "2.4.1",
     {          "Windward",      "Leeward"}, {
     {1, {     P(+0.85, kT5c),  S(-0.5, kT5r)}},
     {4, {     P(+0.6,  kT5c),  S(-0.5, kT5r)}},
-  }),
+  }, "by one printed figure that fits the pair"),
   // Rows: share of the funnelling figures (2.4.1.4).
   MakeBlock("side", "exposure", kBs6399,
     {          "A",             "B",             "C"}, {
     {0, {     S(-1.3, kT5r),   S(-0.8, kT5k),   S(-0.5, kT5k)}, "isolated"},
     {1, {     S(-1.6, kT5k),   S(-0.9, kT5k),   S(-0.9, kT5k)}, "funnelling"},
-  }),
+  }, "with a sister table"),
 });
 // clang-format on
 
