@@ -20,7 +20,7 @@ bool HasSizeEffect(const WorstCase& search) {
 Warning PressureZero(const char* coefficient) {
   return {WarningCode::WindPressureZero, std::string(coefficient) +
                                              " is present but q is 0 in every wind looked at, so that the "
-                                             "load is 0: give the basic wind speed"};
+                                             "load is 0: give q where results are entered by hand"};
 }
 
 const char* DiagonalOf(WindAreas area) {

@@ -42,8 +42,8 @@ Marks MarksOf(const ZoneRow& row) {
 void CheckMarks(const ZoneRow& row, const Warnings& warnings) {
   std::set<std::string> marked;
   for (const int mark : MarksOf(row)) marked.insert(warnings.Texts().at(static_cast<std::size_t>(mark) - 1));
-  for (const std::string& warning : explain::WarningsOf({&row.tree, 1}))
-    EXPECT_EQ(marked.count(warning), 1U) << warning;
+  for (const explain::Warning& warning : explain::WarningsOf({&row.tree, 1}))
+    EXPECT_EQ(marked.count(warning.text), 1U) << warning.text;
 }
 
 // Lines follow from earlier ones alone, and the last is the load.
@@ -80,6 +80,25 @@ TEST_F(ContentTest, HoldsTheGreatestLoadsTheirWarningsAndDerivationsForRandomCas
       if (area.Worst().face >= 0) CheckDerivation(area.Row(area.Worst()), &area.Worst() == &area.pressure);
     }
   }
+}
+
+// A tall and shallow building: the face is too short for zone D, whose pressure is the only one.
+TEST_F(ContentTest, NamesAGoverningZoneThatIsAbsent) {
+  MakePortal();
+  const auto building = root->BuildingDimensions();
+  building->RoofType(RoofTypes::Flat_roof_with_sharp_eaves);
+  building->OrientationUnknown(true);
+  building->Face1And3_Length(60);
+  building->Face2And4_Width(8);
+  building->Roof_Height(20);
+  const Content content = GatherContent();
+  const AreaZones& roof = content.areas.front();
+  ASSERT_GE(roof.pressure.face, 0);
+  EXPECT_EQ(roof.Row(roof.pressure).name, "D");
+  EXPECT_TRUE(roof.Row(roof.pressure).absent);
+  EXPECT_FALSE(roof.Row(roof.suction).absent);
+  const std::string sheet = MakeSheet({});
+  EXPECT_NE(sheet.find("<br>absent</td>"), std::string::npos);
 }
 
 TEST_F(ContentTest, ShowsTheInputsThatPlayAPart) {

@@ -221,6 +221,18 @@ TEST_F(Program, WarnsOfLoadsThatAreTooSmallAndOfSubstitutes) {
   EXPECT_TRUE(Has(loads, "The gable faces are Faces 1 and 3"));
   EXPECT_TRUE(Has(loads, "A coefficient is present but Ca is 0"));
   EXPECT_TRUE(Has(loads, "An internal coefficient is present but its Ca is 0"));
+  // q of internal pressure is that of the side walls; the sea and a town make both ends of the window the
+  // worst.
+  Output({"set", "shed.wlc", "Wall_SideDiagonal=0", "Roof_Diagonal=5", "InternalVolume=4800",
+          "OrientationUnknown=False", "Orientation=50", "FetchesToSea(*)=60", "FetchesToSea(0)=0.1",
+          "FetchesInTown(*)=0", "FetchesInTown(1)=10", "FetchesInTown(2)=10", "FetchesInTown(3)=10",
+          "FetchesInTown(4)=0.2"});
+  const std::string asJson = Output({"loads", "shed.wlc", "--json"});
+  Output({"sheet", "shed.wlc"});
+  for (const char* part : {"their diagonal is 0: give Wall_SideDiagonal", "% below the 0."})
+    for (const std::string& text : {Output({"explain", "shed.wlc", "roof", "2", "C"}),
+                                    Output({"loads", "shed.wlc"}), asJson, Content("shed.html")})
+      EXPECT_TRUE(Has(text, part)) << part;
   Output({"set", "shed.wlc", "Roof_Pitch=2"});
   const Ending refused = Run({"loads", "shed.wlc"});
   EXPECT_EQ(refused.code, 1);
