@@ -28,7 +28,7 @@ PACKAGES=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
 install_missing "${PACKAGES[@]}" || { FAILED=1 && finish; exit 1; }
 
 check_format() {
-  git ls-files '*.h' '*.cpp' '*.c' | xargs clang-format --dry-run --Werror
+  git ls-files '*.h' '*.cpp' '*.c' ':!tests/doors/golden' | xargs clang-format --dry-run --Werror
 }
 
 # An outside program that knows nothing but the installation.

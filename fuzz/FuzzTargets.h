@@ -21,8 +21,8 @@ void CaseFile(std::string_view input);
 void ObjectModel(std::string_view input);
 /// A profile file: a stored value is found again.
 void ProfileFile(std::string_view input);
-/// A calculation sheet: eight texts, parted by the byte 0xFF, at the places that a stranger can fill. The markup
-/// stays whole and holds no script and no outside link.
+/// A calculation sheet: eight texts, parted by the byte 0xFF, at the places that a stranger can fill. The
+/// markup stays whole and holds no script and no outside link.
 void Sheet(std::string_view input);
 /// Texts of numbers, dates and descriptions, and what is read back from them.
 void Texts(std::string_view input);

@@ -53,7 +53,7 @@ explain::QuantityPtr Told(const explain::QuantityPtr& tree, const std::string& t
   auto told = std::make_shared<explain::Quantity>(*tree);
   for (std::string* place : {&told->name, &told->unit, &told->text, &told->note, &told->clause})
     *place = text;
-  told->warnings = {text};
+  told->warnings = {{explain::WarningCode::FigureRecalled, text}};
   for (explain::QuantityPtr& child : told->children) {
     auto changed = std::make_shared<explain::Quantity>(*child);
     changed->name = changed->note = changed->formula = changed->numbers = text;

@@ -9,8 +9,6 @@ namespace orve::windspeed {
 
 namespace {
 
-constexpr double kLargest = std::numeric_limits<float>::max();
-
 /// A range with its ends, each inside or outside of it.
 struct Range {
   const char* quantity;

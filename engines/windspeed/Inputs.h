@@ -13,6 +13,8 @@ namespace orve::windspeed {
 inline constexpr std::size_t kSectors = 12;
 inline constexpr std::size_t kSectorValues = 9;
 inline constexpr double kNotKnown = std::numeric_limits<double>::quiet_NaN();
+/// The greatest value that a 32-bit result holds.
+inline constexpr double kLargest = std::numeric_limits<float>::max();
 
 /// Whether none of the values is NaN. Nothing is worked out from a value that isn't known: in a host that
 /// lets floating-point exceptions trap, a comparison with NaN would end the program.

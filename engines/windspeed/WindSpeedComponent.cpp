@@ -3,7 +3,6 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
 #include "common/Error.h"
 #include "common/Host.h"
@@ -13,8 +12,6 @@
 namespace orve::windspeed {
 
 namespace {
-
-constexpr double kLargest = std::numeric_limits<float>::max();
 
 std::size_t SectorIndex(WindSectors sector) {
   const auto value = static_cast<std::int32_t>(sector);

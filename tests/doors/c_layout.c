@@ -1,4 +1,5 @@
-/* Prints sizes and places of everything in the records of the object model, and of the fields of the file dialog. */
+/* Prints sizes and places of everything in the records of the object model, and of the fields of the file
+ * dialog. */
 #include <stdio.h>
 
 #include "orve3_bs6399_2_c.h"
