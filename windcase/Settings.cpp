@@ -1,5 +1,6 @@
 #include "Settings.h"
 
+#include <common/Host.h>
 #include <cstdlib>
 #include <stdlib.h>
 
@@ -41,9 +42,11 @@ PrivateFolder::PrivateFolder() {
   if (mkdtemp(pattern.data()) == nullptr)
     throw Failure(ExitCode::File, "Can't make a temporary folder in " + base.string());
   m_path = pattern;
+  orve::Host().SettingsAreTemporary = true;
 }
 
 PrivateFolder::~PrivateFolder() {
+  orve::Host().SettingsAreTemporary = false;
   std::error_code ignored;
   fs::remove_all(m_path, ignored);
 }

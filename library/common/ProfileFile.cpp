@@ -63,9 +63,9 @@ ProfileFile::Line ProfileFile::LineAt(std::size_t begin) const {
   return {begin, end, std::min(end + (carriageReturn ? 2 : 1), m_text.size())};
 }
 
-ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view key) const {
+template <class Visit>
+ProfileFile::Place ProfileFile::Walk(std::string_view section, Visit visit) const {
   const std::string wantedSection = UpperCase(TrimBlanks(section));
-  const std::string wantedKey = UpperCase(TrimBlanks(key));
   Place place;
   for (std::size_t at = 0; at < m_text.size();) {
     const Line line = LineAt(at);
@@ -82,20 +82,38 @@ ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view 
     if (!place.sectionFound) continue;
     place.insertAt = line.next;
     const std::size_t sign = whole.find('=');
-    if (sign == std::string_view::npos || UpperCase(TrimBlanks(whole.substr(0, sign))) != wantedKey) continue;
-    place.keyFound = true;
+    if (sign == std::string_view::npos) continue;
     place.valueBegin = line.begin + sign + 1;
     place.valueEnd = line.end;
-    break;
+    place.keyFound = visit(UpperCase(TrimBlanks(whole.substr(0, sign))), place);
+    if (place.keyFound) break;
   }
   return place;
+}
+
+ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view key) const {
+  const std::string wanted = UpperCase(TrimBlanks(key));
+  return Walk(section, [&wanted](const std::string& found, const Place&) { return found == wanted; });
+}
+
+std::string ProfileFile::ValueAt(const Place& place) const {
+  const auto value = std::string_view(m_text).substr(place.valueBegin, place.valueEnd - place.valueBegin);
+  return FirstCharacters(WithoutQuotes(TrimBlanks(value)), LongestValue);
 }
 
 std::optional<std::string> ProfileFile::Value(std::string_view section, std::string_view key) const {
   const Place place = Find(section, key);
   if (!place.keyFound) return std::nullopt;
-  const auto value = std::string_view(m_text).substr(place.valueBegin, place.valueEnd - place.valueBegin);
-  return FirstCharacters(WithoutQuotes(TrimBlanks(value)), LongestValue);
+  return ValueAt(place);
+}
+
+std::unordered_map<std::string, std::string> ProfileFile::Values(std::string_view section) const {
+  std::unordered_map<std::string, std::string> values;
+  Walk(section, [&](const std::string& key, const Place& place) {
+    values.try_emplace(key, ValueAt(place));
+    return false;
+  });
+  return values;
 }
 
 void ProfileFile::Value(std::string_view section, std::string_view key, std::string_view value) {
@@ -118,6 +136,32 @@ void ProfileFile::Value(std::string_view section, std::string_view key, std::str
   const bool lineIsOpen = at > 0 && m_text[at - 1] != '\n' && m_text[at - 1] != '\r';
   if (lineIsOpen) added.insert(0, LineEnd);
   m_text.insert(at, added);
+}
+
+// The values that are there are replaced while the text is copied once; the others are added to it.
+void ProfileFile::Values(std::string_view section,
+                         const std::vector<std::pair<std::string, std::string>>& values) {
+  std::unordered_map<std::string, const std::string*> wanted;
+  for (const auto& [key, value] : values) wanted.emplace(UpperCase(TrimBlanks(key)), &value);
+  std::string text;
+  std::size_t copied = 0;
+  Walk(section, [&](const std::string& key, const Place& place) {
+    const auto found = wanted.find(key);
+    if (found == wanted.end()) return false;
+    const std::string_view stored =
+        std::string_view(*found->second).substr(0, found->second->find_first_of(LineEnd));
+    wanted.erase(found);
+    if (m_text.compare(place.valueBegin, place.valueEnd - place.valueBegin, stored) == 0) return false;
+    text.append(m_text, copied, place.valueBegin - copied).append(stored);
+    copied = place.valueEnd;
+    return false;
+  });
+  if (copied > 0) {
+    m_changed = true;
+    m_text = text.append(m_text, copied);
+  }
+  for (const auto& [key, value] : values)
+    if (wanted.contains(UpperCase(TrimBlanks(key)))) Value(section, key, value);
 }
 
 void ProfileFile::Store(const std::string& path, Durability durability) const {

@@ -1,4 +1,7 @@
 // The list of recently used files, in the settings file.
+#include <utility>
+#include <vector>
+
 #include "common/Error.h"
 #include "common/FileLayer.h"
 #include "common/LetterCase.h"
@@ -19,16 +22,19 @@ std::string EntryKey(std::int32_t index) {
   return "RecentFile" + std::to_string(index);
 }
 
-/// An entry as it is compared.
-std::string Entry(const ProfileFile& profile, const std::string& section, std::int32_t index) {
-  const std::string value = profile.Value(section, EntryKey(index)).value_or(std::string());
-  return UpperCase(TrimBlanks(value));
+/// The entries up to the first one that is empty, as they stand in the settings file.
+std::vector<std::string> Entries(const ProfileFile& profile, const std::string& section) {
+  const auto values = profile.Values(section);
+  std::vector<std::string> entries;
+  while (true) {
+    const auto found = values.find(UpperCase(EntryKey(static_cast<std::int32_t>(entries.size()) + 1)));
+    if (found == values.end() || TrimBlanks(found->second).empty()) return entries;
+    entries.push_back(found->second);
+  }
 }
 
-std::int16_t CountEntries(const ProfileFile& profile, const std::string& section) {
-  std::int32_t index = 1;
-  while (!Entry(profile, section, index).empty()) ++index;
-  return ToInt16(index - 1);
+std::int16_t CountOf(const std::vector<std::string>& entries) {
+  return ToInt16(static_cast<std::int32_t>(entries.size()));
 }
 
 }  // namespace
@@ -47,25 +53,25 @@ void clsSaveFile::RecentFile(std::int16_t index, const std::string& value) {
 // half moved.
 void clsSaveFile::RecentFileAdd(const std::string& fileName) {
   ProfileFile profile = ProfileFile::Load(m_PathToApplicationINI);
-  const std::int32_t count = CountEntries(profile, m_ApplicationName);
+  const std::vector<std::string> entries = Entries(profile, m_ApplicationName);
+  const std::int32_t count = CountOf(entries);
   const std::int32_t limit = RecentFileLimit();
   const std::string name = UpperCase(TrimBlanks(StoredPath(fileName)));
   std::int32_t last = count >= limit ? limit - 1 : count;
   for (std::int32_t index = 1; index <= count; ++index) {
-    if (Entry(profile, m_ApplicationName, index) != name) continue;
+    if (UpperCase(TrimBlanks(entries[static_cast<std::size_t>(index - 1)])) != name) continue;
     last = index - 1;
     break;
   }
-  for (std::int32_t index = last; index >= 1; --index) {
-    const auto value = profile.Value(m_ApplicationName, EntryKey(index));
-    profile.Value(m_ApplicationName, EntryKey(index + 1), value.value_or(std::string()));
-  }
-  profile.Value(m_ApplicationName, EntryKey(1), name);
+  std::vector<std::pair<std::string, std::string>> moved{{EntryKey(1), name}};
+  for (std::int32_t index = 1; index <= last; ++index)
+    moved.emplace_back(EntryKey(index + 1), entries[static_cast<std::size_t>(index - 1)]);
+  profile.Values(m_ApplicationName, moved);
   StoreSettings(profile);
 }
 
 std::int16_t clsSaveFile::RecentFileCount() const {
-  return CountEntries(ProfileFile::Load(m_PathToApplicationINI), m_ApplicationName);
+  return CountOf(Entries(ProfileFile::Load(m_PathToApplicationINI), m_ApplicationName));
 }
 
 std::int16_t clsSaveFile::RecentFileLimit() const {
