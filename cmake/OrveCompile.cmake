@@ -10,6 +10,9 @@ target_compile_options(orve_compile INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
   -ffp-contract=off
+  # clang otherwise works out both sides of a condition, which raises exceptions that the code avoids: some hosts let
+  # them trap.
+  $<$<CXX_COMPILER_ID:Clang>:-ffp-exception-behavior=maytrap>
   $<$<AND:$<CXX_COMPILER_ID:GNU,Clang>,$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>>:-msse2 -mfpmath=sse>)
 if(ORVE_SANITIZE)
   target_compile_options(orve_compile INTERFACE
