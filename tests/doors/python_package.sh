@@ -32,6 +32,6 @@ grep -q "site-packages/orve3_bs6399_2/share/orve" "$folder/says.txt"
 
 if "$python" -c 'import mypy.stubtest' 2>/dev/null; then
   package=$("$plain" -c 'import orve3_bs6399_2, os; print(os.path.dirname(os.path.dirname(orve3_bs6399_2.__file__)))')
-  test -s "$package/orve3_bs6399_2/py.typed"
+  test -e "$package/orve3_bs6399_2/py.typed"
   MYPYPATH=$package PYTHONPATH=$package "$python" -m mypy.stubtest orve3_bs6399_2 --concise
 fi
